@@ -1,0 +1,17 @@
+# The libraries that Debian packages for us. pkg-config names differ between releases only in version.
+
+find_package(PkgConfig REQUIRED)
+find_package(fmt REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(nlohmann_json REQUIRED)
+find_package(ICU REQUIRED COMPONENTS uc i18n)
+find_package(OpenSSL REQUIRED COMPONENTS Crypto)
+pkg_check_modules(SQLCIPHER REQUIRED IMPORTED_TARGET sqlcipher)
+
+if(BUILD_TESTING)
+  find_package(GTest REQUIRED)
+  include(GoogleTest)
+endif()
+if(LORVANE_BENCH)
+  find_package(benchmark REQUIRED)
+endif()
