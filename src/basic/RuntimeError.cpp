@@ -25,6 +25,7 @@ constexpr std::array kUsualSentences{
     UsualSentence{error_number::kPathFileAccess, "Path/File access error"},
     UsualSentence{error_number::kObjectNotSet, "Object variable not set"},
     UsualSentence{error_number::kInvalidPropertyValue, "Invalid property value"},
+    UsualSentence{error_number::kInvalidArrayIndex, "Invalid property array index"},
     UsualSentence{error_number::kTextNotInList, "'Text' property is read-only"},
     UsualSentence{error_number::kNoCurrentRow,
                   "Either BOF or EOF is True, or the current record has been deleted. Requested "

@@ -20,6 +20,7 @@ inline constexpr std::int32_t kPermissionDenied = 70;
 inline constexpr std::int32_t kPathFileAccess = 75;
 inline constexpr std::int32_t kObjectNotSet = 91;
 inline constexpr std::int32_t kInvalidPropertyValue = 380;
+inline constexpr std::int32_t kInvalidArrayIndex = 381;
 inline constexpr std::int32_t kTextNotInList = 383;
 inline constexpr std::int32_t kNoCurrentRow = 3021;
 inline constexpr std::int32_t kItemNotFound = 3265;

@@ -1,0 +1,90 @@
+#include "company/modNewCompany.h"
+
+#include <array>
+
+#include "basic/RuntimeError.h"
+#include "basic/Text.h"
+#include "data/IniDocument.h"
+#include "screen/ScreenServices.h"
+#include "screen/Session.h"
+#include "screen/modForm.h"
+
+namespace lorvane {
+namespace {
+
+constexpr const char* kToday = "(today)";
+
+struct DesignedKey {
+  const char* section;
+  const char* key;
+  const char* value;
+};
+
+// Readers take some of these by their place in the section, so the order is part of the format.
+constexpr std::array kDesignedKeys{
+    DesignedKey{"Environment", "ToolBar", "-1"},
+    DesignedKey{"Environment", "StatusBar", "-1"},
+    DesignedKey{"Environment", "Setup", "0"},
+    DesignedKey{"Assessment", "LastEntry", kToday},
+    DesignedKey{"Assessment", "Default", "0"},
+    DesignedKey{"Assessment", "Industry", "1"},
+    DesignedKey{"Assessment", "CurrentYear", "0"},
+    DesignedKey{"Remittance", "Preview", "-1"},
+    DesignedKey{"Remittance", "Copies", "1"},
+    DesignedKey{"Remittance", "Export", "-1"},
+    DesignedKey{"Remittance", "Nav", "-1"},
+    DesignedKey{"Remittance", "Progress", "-1"},
+    DesignedKey{"Remittance", "Refresh", "-1"},
+    DesignedKey{"Remittance", "Search", "-1"},
+    DesignedKey{"Remittance", "Zoom", "-1"},
+    DesignedKey{"Remittance", "From", kToday},
+    DesignedKey{"Remittance", "To", kToday},
+    DesignedKey{"Environment", "DataFiles", "-1"},
+    DesignedKey{"Environment", "Company", "0"},
+    DesignedKey{"Environment", "SubContractors", "0"},
+    DesignedKey{"Environment", "Employees", "0"},
+    DesignedKey{"Environment", "Name", "None"},
+};
+
+}  // namespace
+
+bool CopyTemplateDatabase(ScreenContext context, const std::string& destination) {
+  try {
+    context.session.files.Copy(context.session.programFolder + "/Resource/Template/Data.mdb",
+                               destination);
+    return true;
+  } catch (const RuntimeError& error) {
+    if (error.Number() == error_number::kFileAlreadyExists) {
+      context.services.MsgBox(
+          "The company you have entered already exists.\r\n"
+          "Please enter a new company name before proceeding.",
+          box::kExclamation, "Company");
+    } else {
+      ShowError(context, error, box::kExclamation);
+    }
+    return false;
+  }
+}
+
+void CreateConfigFile(ScreenContext context, const std::string& dataFile) {
+  Session& session = context.session;
+  const std::string path = GetPathPart(dataFile);
+  const std::string folder = path.empty() ? path : path.substr(0, path.size() - 1);
+  session.gConfigFile = folder;
+  session.gDataConn->DataSource = folder;
+
+  IniDocument document;
+  document.Set("DataBase", "Path", folder);
+  document.Set("Database", "File", GetNamePart(dataFile));
+  const std::string today = ShortDate(context.services.Now().Day());
+  for (const DesignedKey& key : kDesignedKeys) {
+    document.Set(key.section, key.key, key.value == kToday ? today : std::string(key.value));
+  }
+  try {
+    session.files.Write(path + "LorvaneConfig.ini", document.Text());
+  } catch (const RuntimeError&) {
+    // Nobody is told; the company opens with the defaults of every key.
+  }
+}
+
+}  // namespace lorvane

@@ -1,0 +1,71 @@
+#include "screen/ScreenHost.h"
+
+#include <algorithm>
+
+#include "basic/Text.h"
+
+namespace lorvane {
+
+std::unique_ptr<Screen> ScreenRegistry::Make(std::string_view name, ScreenContext context) const {
+  const auto found = factories_.find(name);
+  return found == factories_.end() ? nullptr : found->second(context);
+}
+
+ScreenHost::ScreenHost(Session& session, const ScreenRegistry& registry)
+    : session_(&session), registry_(&registry) {}
+
+void ScreenHost::Show(Screen& screen) {
+  open_.push_back(&screen);
+  try {
+    screen.Load();
+    if (!screen.IsClosed()) {
+      screen.Activate();
+    }
+  } catch (...) {
+    Forget(screen);
+    throw;
+  }
+}
+
+void ScreenHost::ShowModal(Screen& screen) {
+  Show(screen);
+  try {
+    if (!screen.IsClosed()) {
+      RunModal(screen);
+    }
+  } catch (...) {
+    Forget(screen);
+    throw;
+  }
+  Forget(screen);
+  if (Screen* behind = ActiveScreen()) {
+    behind->Activate();
+  }
+}
+
+bool ScreenHost::OpenScreen(std::string_view name, const ScreenArguments& arguments) {
+  const std::unique_ptr<Screen> screen = registry_->Make(name, Context());
+  if (screen == nullptr) {
+    return false;
+  }
+  for (const auto& [property, value] : arguments) {
+    screen->SetProperty(property, value);
+  }
+  ShowModal(*screen);
+  return true;
+}
+
+Screen* ScreenHost::FindScreen(std::string_view name) const {
+  const auto found = std::find_if(open_.rbegin(), open_.rend(), [&](const Screen* screen) {
+    return EqualsNoCase(screen->Name(), name);
+  });
+  return found == open_.rend() ? nullptr : *found;
+}
+
+Screen* ScreenHost::ActiveScreen() const { return open_.empty() ? nullptr : open_.back(); }
+
+void ScreenHost::Forget(const Screen& screen) {
+  open_.erase(std::remove(open_.begin(), open_.end(), &screen), open_.end());
+}
+
+}  // namespace lorvane

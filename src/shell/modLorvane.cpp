@@ -1,0 +1,51 @@
+#include "shell/modLorvane.h"
+
+#include <filesystem>
+#include <utility>
+
+#include "basic/RuntimeError.h"
+#include "payments/frmPayment.h"
+#include "payments/frmSelectAssessment.h"
+#include "payments/frmSelectDate.h"
+#include "screen/modForm.h"
+#include "shell/frmMain.h"
+
+namespace lorvane {
+
+std::unique_ptr<Session> Main(DataEnvironment environment, Files& files) {
+  auto session = std::make_unique<Session>(std::move(environment), files);
+  session->gDataConn->SetProviderConst(DataConnection::kJet);
+  session->gDataConn->Password = kDataFilePassword;
+  return session;
+}
+
+ScreenRegistry AllScreens() {
+  ScreenRegistry registry;
+  registry.Add<frmMain>("frmMain");
+  registry.Add<frmSelectAssessment>("frmSelectAssessment");
+  return registry;
+}
+
+void ShutDown(ScreenContext context, int exitStatus) {
+  context.session.gDataConn->DataClose();
+  throw ProgramEnded{exitStatus};
+}
+
+void EndOnUnhandledError(ScreenContext context, const RuntimeError& error) {
+  context.session.gDataConn->DataClose();
+  context.services.SetPointer(pointer::kDefault);
+  ShowError(context, error, box::kCritical);
+  throw ProgramEnded{1};
+}
+
+std::string ProgramFolder() {
+  namespace fs = std::filesystem;
+  std::error_code ignored;
+  const fs::path own = fs::read_symlink("/proc/self/exe", ignored).parent_path();
+  if (fs::exists(own / "Resource", ignored)) {
+    return own.string();
+  }
+  return (own.parent_path() / "share" / "lorvane").string();
+}
+
+}  // namespace lorvane
