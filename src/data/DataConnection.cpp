@@ -8,6 +8,7 @@
 #include "basic/Number.h"
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
+#include "data/Recordset.h"
 #include "data/modDataAccess.h"
 
 namespace lorvane {
@@ -136,12 +137,12 @@ std::int32_t DataConnection::NextKey(const std::string& tableName, const std::st
   const std::string where = "WHERE TableName = '" + tableName + "'";
   EngineConnection& connection = Connection();
   while (true) {
-    const ResultTable counter = RunWithRetry(
-        errors, [&] { return connection.Query("SELECT * FROM tblTableIDs " + where); });
-    if (counter.rows.empty()) {
+    Recordset counter;
+    RunWithRetry(errors, [&] { counter.Open(connection, "SELECT * FROM tblTableIDs " + where); });
+    if (counter.Eof()) {
       break;
     }
-    const std::int32_t candidate = ToLong(NullToDouble(counter.rows.front().front()) + 1);
+    const std::int32_t candidate = ToLong(NullToDouble(counter.Field("NextId")) + 1);
     const std::int64_t affected = RunWithRetry(errors, [&] {
       return connection.Execute("UPDATE tblTableIDs SET NextId = NextId + 1 " + where);
     });

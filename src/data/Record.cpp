@@ -234,26 +234,22 @@ double Record::ReadNumber(Kind kind, const Value& value) {
 }
 
 bool Record::Retrieve() {
-  return Guarded("Retrieve", "\r\nmost likely a column name is misspelled in the Retrieve() method",
-                 [&] {
-                   std::size_t place = 0;
-                   for (const Property* property : RetrievePlan()) {
-                     const Value& value = recordset_.Field(property->column, place);
-                     ++place;
-                     std::visit(Overloaded{
-                                    [&](std::int32_t* key) { *key = NullToLong(value); },
-                                    [&](std::string* text) { *text = NullToText(value); },
-                                    [&](double* number) {
-                                      *number = property->kind == Kind::kAmount
-                                                    ? NullToCurrency(value).ToDouble()
-                                                    : NullToDouble(value);
-                                    },
-                                    [&](bool* flag) { *flag = NullToBool(value); },
-                                },
-                                property->target);
-                   }
-                   return true;
-                 });
+  return Guarded(
+      "Retrieve", "\r\nmost likely a column name is misspelled in the Retrieve() method", [&] {
+        std::size_t place = 0;
+        for (const Property* property : RetrievePlan()) {
+          const Value& value = recordset_.Field(property->column, place);
+          ++place;
+          std::visit(Overloaded{
+                         [&](std::int32_t* key) { *key = NullToLong(value); },
+                         [&](std::string* text) { *text = NullToText(value); },
+                         [&](double* number) { *number = ReadNumber(property->kind, value); },
+                         [&](bool* flag) { *flag = NullToBool(value); },
+                     },
+                     property->target);
+        }
+        return true;
+      });
 }
 
 std::string Record::BuildSelect() const { return SelectText() + BuildWhere() + BuildOrderBy(); }

@@ -1,0 +1,60 @@
+#include <iostream>
+
+#include "basic/RuntimeError.h"
+#include "cli/Commands.h"
+#include "cli/PaymentWindow.h"
+
+namespace lorvane {
+namespace {
+
+std::vector<int> RowsOf(const PaymentWindow& window, const PostOptions& post) {
+  std::vector<int> rows;
+  if (post.ids.empty()) {
+    for (const auto& [id, row] : window.RowsById()) {
+      rows.push_back(row);
+    }
+  }
+  for (const std::int32_t id : post.ids) {
+    const auto found = window.RowsById().find(id);
+    if (found == window.RowsById().end()) {
+      throw CommandFailure(
+          "There is no " +
+          std::string(post.payees.employees ? "active employee " : "sub-contractor ") +
+          std::to_string(id) + " in industry " + post.payees.industry + ".");
+    }
+    rows.push_back(found->second);
+  }
+  return rows;
+}
+
+}  // namespace
+
+int RunPost(const CommandOptions& options, const PostOptions& post) {
+  const std::optional<DateTime> date = ParseDate(post.date);
+  if (!date) {
+    throw CommandFailure("'" + post.date + "' is no date.");
+  }
+  CommandProgram program(options);
+  program.OpenCompanyForPayments();
+  const std::string count = std::string("SELECT Count(*) AS Rows FROM ") +
+                            (post.payees.employees ? "tblEmpHistory" : "tblSubHistory");
+  const auto before = std::get<std::int32_t>(program.QueryValue(count));
+  bool posted = false;
+  PaymentWindow::Open(program, post.payees, [&](PaymentWindow& window) {
+    const std::vector<int> rows = RowsOf(window, post);
+    if (!post.payees.employees) {
+      for (const auto& [id, row] : window.RowsById()) {
+        window.ReadBack(row);
+      }
+    }
+    posted = window.Post(rows, date->Day());
+  });
+  if (!posted) {
+    return 1;
+  }
+  const auto after = std::get<std::int32_t>(program.QueryValue(count));
+  std::cout << "Posted " << after - before << " payments of " << ShortDate(date->Day()) << ".\n";
+  return 0;
+}
+
+}  // namespace lorvane

@@ -1,0 +1,59 @@
+#include "cli/CommandProgram.h"
+
+#include <filesystem>
+#include <string_view>
+#include <vector>
+
+#include "basic/Text.h"
+#include "cli/CompanyCheck.h"
+#include "cli/Console.h"
+#include "shell/modLorvane.h"
+
+namespace lorvane {
+
+CommandProgram::CommandProgram(const CommandOptions& options)
+    : file_(std::filesystem::absolute(options.file).lexically_normal().string()),
+      engine_(MakeFileEngine()),
+      screens_(AllScreens()) {
+  const Clock clock = SystemClock();
+  session_ = Main({engine_.get(), ProgramFolder(), clock}, files_);
+  services_ = std::make_unique<CommandLineServices>(*session_, screens_, StandardConsole(), clock,
+                                                    options.assumeYes);
+}
+
+CommandProgram::~CommandProgram() { session_->gDataConn->DataClose(); }
+
+void CommandProgram::OpenCompany() {
+  DataConnection& connection = *session_->gDataConn;
+  connection.DataSource = file_;
+  if (!connection.DataOpen()) {
+    std::string reason;
+    for (const std::string& line : Split(Replace(connection.ErrorHandler(), kCrLf, "\n"), '\n')) {
+      constexpr std::string_view description = "Description: ";
+      if (line.starts_with(description)) {
+        reason = line.substr(description.size());
+      }
+    }
+    throw CommandFailure(reason);
+  }
+  session_->gConfigFile = GetPathPart(file_) + "LorvaneConfig.ini";
+}
+
+void CommandProgram::OpenCompanyForPayments() {
+  OpenCompany();
+  if (!session_->Ini().KeyGet("DataBase", "YE", "").empty()) {
+    throw CommandFailure("'" + file_ +
+                         "' is the archive of a closed year: nothing can be paid in it.");
+  }
+  const std::vector<std::string> findings = CheckAssessmentSettings(*session_);
+  if (!findings.empty()) {
+    throw CommandFailure(findings.front());
+  }
+}
+
+Value CommandProgram::QueryValue(const std::string& statement) {
+  const ResultTable table = Connection().Query(statement);
+  return table.rows.empty() ? Value() : table.rows.front().front();
+}
+
+}  // namespace lorvane

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "cli/CommandLineServices.h"
+#include "screen/Session.h"
+
+namespace lorvane {
+
+/// A command that can't be done: a sentence for standard error and exit status 1.
+class CommandFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// What every command has in common.
+struct CommandOptions {
+  /// The company's data file.
+  std::string file;
+  /// Answers every question with Yes.
+  bool assumeYes = false;
+};
+
+/// The program as a command runs it: a session, its screens, and the console as their way out.
+class CommandProgram {
+ public:
+  explicit CommandProgram(const CommandOptions& options);
+  CommandProgram(const CommandProgram&) = delete;
+  CommandProgram& operator=(const CommandProgram&) = delete;
+  ~CommandProgram();
+
+  /// Opens the company as Open Company does. Raises CommandFailure with the reason when it can't.
+  void OpenCompany();
+  /// As OpenCompany, for commands that change the payroll: refuses a year-end archive, and a
+  /// configuration file whose lines the payment window would misread.
+  void OpenCompanyForPayments();
+
+  [[nodiscard]] const std::string& File() const { return file_; }
+  [[nodiscard]] Session& GetSession() { return *session_; }
+  [[nodiscard]] CommandLineServices& Services() { return *services_; }
+  [[nodiscard]] ScreenContext Context() { return services_->Context(); }
+  [[nodiscard]] EngineConnection& Connection() { return session_->gDataConn->Connection(); }
+  /// The first value of a statement's first row; null when there is none.
+  [[nodiscard]] Value QueryValue(const std::string& statement);
+
+ private:
+  std::string file_;
+  std::unique_ptr<Engine> engine_;
+  DiskFiles files_;
+  ScreenRegistry screens_;
+  std::unique_ptr<Session> session_;
+  std::unique_ptr<CommandLineServices> services_;
+};
+
+}  // namespace lorvane

@@ -1,0 +1,44 @@
+#include <iostream>
+
+#include "basic/RuntimeError.h"
+#include "basic/Text.h"
+#include "cli/Commands.h"
+#include "reports/ReportDocument.h"
+
+namespace lorvane {
+namespace {
+
+bool IsSelect(const std::string& statement) {
+  const std::size_t first = statement.find_first_not_of(" \t\r\n(");
+  return first != std::string::npos && EqualsNoCase(statement.substr(first, 6), "SELECT");
+}
+
+void PrintRows(const ResultTable& table) {
+  std::vector<std::string> cells;
+  for (const Column& column : table.columns) {
+    cells.push_back(column.name);
+  }
+  std::cout << CsvLine(cells) << '\n';
+  for (const std::vector<Value>& row : table.rows) {
+    cells.clear();
+    for (const Value& value : row) {
+      cells.push_back(ListingTextOf(value));
+    }
+    std::cout << CsvLine(cells) << '\n';
+  }
+}
+
+}  // namespace
+
+int RunSql(const CommandOptions& options, const std::string& statement) {
+  CommandProgram program(options);
+  program.OpenCompany();
+  if (IsSelect(statement)) {
+    PrintRows(program.Connection().Query(statement));
+  } else {
+    std::cout << program.Connection().Execute(statement) << " rows affected\n";
+  }
+  return 0;
+}
+
+}  // namespace lorvane

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/CommandProgram.h"
+
+namespace lorvane {
+
+// The commands of lorvane-cli. Each gives its exit status and raises CommandFailure with the reason
+// when it can't be done; then every table and file is as it was.
+
+/// A kind of payee and one of the company's industries.
+struct PayeeOptions {
+  bool employees = true;
+  /// "A" to "F".
+  std::string industry;
+};
+
+struct PayOptions {
+  PayeeOptions payees;
+  /// CSV with the payees' ids and the amounts; a heading row is allowed.
+  std::string paymentsFile;
+};
+
+struct PostOptions {
+  PayeeOptions payees;
+  std::string date;
+  /// The payees to post; empty for all.
+  std::vector<std::int32_t> ids;
+};
+
+struct RemittanceOptions {
+  /// An empty industry stands for all.
+  PayeeOptions payees;
+  std::string from;
+  std::string to;
+  /// A file ending in .txt or .csv; empty for text on standard output.
+  std::string output;
+};
+
+int RunNew(const CommandOptions& options);
+int RunShow(const CommandOptions& options, bool asJson);
+int RunCheck(const CommandOptions& options);
+int RunSql(const CommandOptions& options, const std::string& statement);
+int RunPay(const CommandOptions& options, const PayOptions& pay);
+int RunPost(const CommandOptions& options, const PostOptions& post);
+int RunRemittance(const CommandOptions& options, const RemittanceOptions& remittance);
+
+}  // namespace lorvane

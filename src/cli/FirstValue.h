@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace lorvane {
+
+class EngineConnection;
+
+/// The first column of a SELECT's first row as a listing shows it; empty when there is no row.
+[[nodiscard]] std::string FirstValue(EngineConnection& connection, std::string_view statement);
+
+}  // namespace lorvane

@@ -1,0 +1,90 @@
+#include "cli/PaymentWindow.h"
+
+#include "basic/Number.h"
+#include "basic/Text.h"
+#include "payments/frmPayment.h"
+#include "payments/frmSelectDate.h"
+#include "screen/ScreenServices.h"
+#include "screen/modListBox.h"
+
+namespace lorvane {
+namespace {
+
+void Press(Screen& screen, Control& control, int key) { screen.UserKey(control, key); }
+
+}  // namespace
+
+IndustrySlot SlotOfOption(const std::string& industry) {
+  for (const IndustrySlot slot : kAllSlots) {
+    if (ToUpper(industry) == std::string(1, LetterOf(slot))) {
+      return slot;
+    }
+  }
+  throw CommandFailure("'" + industry + "' is no industry: give one of A to F.");
+}
+
+PaymentWindow::PaymentWindow(CommandProgram& program, frmSelectAssessment& window)
+    : program_(program), window_(window) {}
+
+void PaymentWindow::Open(CommandProgram& program, const PayeeOptions& payees,
+                         const std::function<void(PaymentWindow&)>& work) {
+  program.Services().OnModal("frmSelectAssessment", [&](Screen& screen) {
+    PaymentWindow window(program, dynamic_cast<frmSelectAssessment&>(screen));
+    window.Choose(payees);
+    work(window);
+    window.window_.RefreshList();  // nothing is left unsaved, so that closing asks nothing
+  });
+  program.Services().OpenScreen("frmSelectAssessment", {});
+}
+
+void PaymentWindow::Choose(const PayeeOptions& payees) {
+  const IndustrySlot slot = SlotOfOption(payees.industry);
+  OptionButton& option = payees.employees ? window_.optEmployee : window_.optSubContractor;
+  option.UserClick();
+  const int index = ListIndexByData(window_.lstIndustries, NumberOf(slot));
+  if (index < 0) {
+    throw CommandFailure("Industry " + std::string(1, LetterOf(slot)) +
+                         " isn't in use in this company.");
+  }
+  window_.lstIndustries.UserSelect(index);
+  for (int row = 0; row < window_.lvwPayments.Count(); ++row) {
+    rowsById_[ToLong(window_.lvwPayments.Cell(row, 0))] = row;
+  }
+}
+
+void PaymentWindow::EnterAmount(int row, double amount) {
+  program_.Services().OnModal("frmPayment", [&](Screen& screen) {
+    TextBox& box = dynamic_cast<frmPayment&>(screen).txtAmount;
+    screen.MoveFocus(box);
+    for (const char c : ShortestText(amount)) {
+      Press(screen, box, c);
+    }
+    Press(screen, box, key_code::kEnter);
+  });
+  window_.lvwPayments.UserDoubleClick(row);
+}
+
+void PaymentWindow::ReadBack(int row) {
+  program_.Services().OnModal("frmPayment", [](Screen& screen) {
+    Press(screen, dynamic_cast<frmPayment&>(screen).txtAmount, key_code::kEscape);
+  });
+  window_.lvwPayments.UserDoubleClick(row);
+  window_.menus.cmdTbrUndo.UserClick();
+}
+
+void PaymentWindow::Save() { window_.menus.cmdTbrSave.UserClick(); }
+
+bool PaymentWindow::Post(const std::vector<int>& rows, const DateTime& date) {
+  program_.Services().OnInput("Year", std::to_string(date.year));
+  program_.Services().OnModal("frmSelectDate", [&](Screen& screen) {
+    auto& dialog = dynamic_cast<frmSelectDate&>(screen);
+    dialog.calDate.UserPick(date);
+    dialog.cmdOK.UserClick();
+  });
+  program_.GetSession().PostingDate = Session::kNoPostingDate;
+  window_.lvwPayments.UserSelectRows(rows);
+  window_.menus.cmdTbrPost.UserClick();
+  return program_.GetSession().PostingDate != Session::kNoPostingDate;
+}
+
+}  // namespace lorvane

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "cli/CommandProgram.h"
+#include "cli/Commands.h"
+#include "payments/frmSelectAssessment.h"
+
+namespace lorvane {
+
+/// The payment window as a command works on it: what a user does with mouse and keyboard, done in
+/// code.
+class PaymentWindow {
+ public:
+  /// Opens the window of the program's company, chooses kind of payee and industry, and lets `work`
+  /// act on it. Raises CommandFailure when the industry isn't in use.
+  static void Open(CommandProgram& program, const PayeeOptions& payees,
+                   const std::function<void(PaymentWindow&)>& work);
+
+  /// Row of each listed payee by id.
+  [[nodiscard]] const std::map<std::int32_t, int>& RowsById() const { return rowsById_; }
+  /// Types an amount into a row, as its shortest text.
+  void EnterAmount(int row, double amount);
+  /// Opens a row, leaves it, and takes the last entry back, so that the row shows its saved amounts
+  /// in every column.
+  void ReadBack(int row);
+  void Save();
+  /// Posts the given rows with a date. False when the user or a rule refused; that was told.
+  [[nodiscard]] bool Post(const std::vector<int>& rows, const DateTime& date);
+
+ private:
+  PaymentWindow(CommandProgram& program, frmSelectAssessment& window);
+  void Choose(const PayeeOptions& payees);
+
+  CommandProgram& program_;
+  frmSelectAssessment& window_;
+  std::map<std::int32_t, int> rowsById_;
+};
+
+/// The slot of "A" to "F", small letters too. Raises CommandFailure for anything else.
+[[nodiscard]] IndustrySlot SlotOfOption(const std::string& industry);
+
+}  // namespace lorvane

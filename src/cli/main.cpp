@@ -1,0 +1,177 @@
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <functional>
+#include <iostream>
+
+#include "Version.h"
+#include "basic/RuntimeError.h"
+#include "cli/Commands.h"
+#include "cli/RunScript.h"
+#include "shell/modLorvane.h"
+
+namespace lorvane {
+namespace {
+
+constexpr int kFailed = 1;
+constexpr int kWrongUsage = 2;
+
+/// The options of every command, with a place for the values that CLI11 reads.
+class CommandLine {
+ public:
+  CommandLine() {
+    app_.set_version_flag("--version", kVersionText);
+    app_.require_subcommand(1);
+    AddNew();
+    AddShow();
+    AddCheck();
+    AddSql();
+    AddPay();
+    AddPost();
+    AddRemittance();
+    AddScript();
+  }
+
+  int Run(int count, char** arguments) {
+    try {
+      app_.parse(count, arguments);
+    } catch (const CLI::ParseError& error) {
+      return app_.exit(error) == 0 ? 0 : kWrongUsage;
+    }
+    try {
+      return command_();
+    } catch (const CommandFailure& failure) {
+      std::cerr << "lorvane-cli: " << failure.what() << '\n';
+    } catch (const RuntimeError& error) {
+      std::cerr << "lorvane-cli: error " << error.Number() << ": " << error.Description() << '\n';
+    } catch (const ProgramEnded& ended) {
+      return ended.exitStatus;
+    }
+    return kFailed;
+  }
+
+ private:
+  CLI::App* AddCommand(const char* name, const char* help, std::function<int()> run) {
+    CLI::App* command = app_.add_subcommand(name, help);
+    command->callback([this, run = std::move(run)] { command_ = run; });
+    return command;
+  }
+
+  void AddFile(CLI::App* command) {
+    command->add_option("FILE", options_.file, "The company's data file")->required();
+    command->add_flag("--yes", options_.assumeYes, "Answer every question with Yes");
+  }
+
+  void AddPayees(CLI::App* command, PayeeOptions& payees, bool industryRequired) {
+    command->add_option("FILE", options_.file, "The company's data file")->required();
+    command
+        ->add_option_function<std::string>(
+            "PAYEES",
+            [&payees](const std::string& kind) { payees.employees = kind == "employees"; },
+            "employees or subcontractors")
+        ->required()
+        ->check(CLI::IsMember({"employees", "subcontractors"}));
+    command->add_option("--industry", payees.industry, "The industry's letter, A to F")
+        ->required(industryRequired);
+    command->add_flag("--yes", options_.assumeYes, "Answer every question with Yes");
+  }
+
+  void AddNew() {
+    AddFile(AddCommand("new", "Make a new company: its data file and LorvaneConfig.ini",
+                       [this] { return RunNew(options_); }));
+  }
+
+  void AddShow() {
+    CLI::App* command = AddCommand("show", "Show a company: name, industries, counts, year",
+                                   [this] { return RunShow(options_, json_); });
+    AddFile(command);
+    command->add_flag("--json", json_, "As JSON");
+  }
+
+  void AddCheck() {
+    AddFile(AddCommand("check", "Check data file, tables, key counters and configuration file",
+                       [this] { return RunCheck(options_); }));
+  }
+
+  void AddSql() {
+    CLI::App* command = AddCommand("sql", "Run one statement; rows are printed as CSV",
+                                   [this] { return RunSql(options_, statement_); });
+    AddFile(command);
+    command->add_option("STATEMENT", statement_, "A statement in the program's dialect")
+        ->required();
+  }
+
+  void AddPay() {
+    CLI::App* command = AddCommand("pay", "Save payments from a CSV file as working entries",
+                                   [this] { return RunPay(options_, pay_); });
+    AddPayees(command, pay_.payees, true);
+    command->add_option("PAYMENTS", pay_.paymentsFile, "CSV file of rows \"id,amount\"")
+        ->required();
+  }
+
+  void AddPost() {
+    CLI::App* command = AddCommand("post", "Post saved entries to the year's history",
+                                   [this] { return RunPost(options_, post_); });
+    AddPayees(command, post_.payees, true);
+    command->add_option("--date", post_.date, "Date of the payments")->required();
+    command->add_option("--id", post_.ids, "Post this payee only; can be given several times");
+  }
+
+  void AddRemittance() {
+    CLI::App* command = AddCommand("remittance", "List the payments of a period",
+                                   [this] { return RunRemittance(options_, remittance_); });
+    AddPayees(command, remittance_.payees, false);
+    command->add_option("--from", remittance_.from, "First day of the period")->required();
+    command->add_option("--to", remittance_.to, "Last day of the period")->required();
+    command->add_option("-o,--output", remittance_.output, "A file ending in .txt or .csv");
+  }
+
+  void AddScript() {
+    CLI::App* command = AddCommand("script", "Run a screen script", [this] { return Script(); });
+    command->add_option("SCRIPT", script_.path, "The script's file")->required();
+    command->add_option("--set", variables_, "NAME=VALUE for ${NAME} in the script");
+    command->add_option("--now", now_, "Where the clock stands: \"1/5/2026 10:00 AM\"");
+  }
+
+  int Script() {
+    for (const std::string& variable : variables_) {
+      const std::size_t equals = variable.find('=');
+      if (equals == std::string::npos || equals == 0) {
+        std::cerr << "lorvane-cli: --set takes NAME=VALUE, not '" << variable << "'.\n";
+        return kWrongUsage;
+      }
+      script_.variables[variable.substr(0, equals)] = variable.substr(equals + 1);
+    }
+    if (!now_.empty()) {
+      script_.now = ParseDate(now_);
+      if (!script_.now) {
+        std::cerr << "lorvane-cli: '" << now_ << "' is no date.\n";
+        return kWrongUsage;
+      }
+    }
+    return RunScript(script_);
+  }
+
+  CLI::App app_{"Lorvane: book-keeping for workers' compensation assessments", "lorvane-cli"};
+  std::function<int()> command_;
+  CommandOptions options_;
+  bool json_ = false;
+  std::string statement_;
+  PayOptions pay_;
+  PostOptions post_;
+  RemittanceOptions remittance_;
+  ScriptOptions script_;
+  std::vector<std::string> variables_;
+  std::string now_;
+};
+
+}  // namespace
+}  // namespace lorvane
+
+int main(int argc, char** argv) {
+  try {
+    return lorvane::CommandLine().Run(argc, argv);
+  } catch (const std::exception& error) {
+    std::cerr << "lorvane-cli: " << error.what() << '\n';
+    return 1;
+  }
+}

@@ -1,0 +1,165 @@
+#include "data/engine/FileEngine.h"
+
+#include <fmt/format.h>
+#include <sqlcipher/sqlite3.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <string_view>
+#include <utility>
+
+#include "basic/RuntimeError.h"
+#include "data/engine/Database.h"
+#include "data/engine/FileConnection.h"
+#include "data/engine/SqlFunctions.h"
+
+namespace lorvane::sql {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kPlainHeader{"SQLite format 3\0", 16};
+constexpr sqlite3_int64 kSmallestFile = 512;
+
+[[noreturn]] void FailFile(const std::string& path, std::string_view what) {
+  throw RuntimeError(error_number::kEngineFailure, fmt::format("The file {} {}", path, what));
+}
+
+// An absolute path is never taken for one of the library's special names.
+std::string AbsolutePath(const std::string& path) {
+  std::error_code error;
+  const fs::path absolute = path.empty() ? fs::path() : fs::absolute(path, error);
+  if (path.empty() || error) {
+    throw RuntimeError(error_number::kEngineFailure, "No data file is named.");
+  }
+  return absolute.string();
+}
+
+void RequireFile(const std::string& path) {
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (!fs::exists(status)) {
+    FailFile(path,
+             status.type() == fs::file_type::not_found ? "does not exist." : "can't be reached.");
+  }
+  if (!fs::is_regular_file(status)) {
+    FailFile(path, "is not a file.");
+  }
+}
+
+struct FileHeader {
+  sqlite3_int64 size = 0;
+  Salt bytes{};
+
+  [[nodiscard]] bool IsPlain() const {
+    return std::equal(
+        bytes.begin(), bytes.end(), kPlainHeader.begin(), kPlainHeader.end(),
+        [](unsigned char byte, char c) { return byte == static_cast<unsigned char>(c); });
+  }
+};
+
+// Through the library's own handle: closing another one would drop the locks that this process
+// holds on the file.
+FileHeader ReadHeader(Database& database) {
+  FileHeader header;
+  sqlite3_file* file = nullptr;
+  int code = sqlite3_file_control(database.Handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+  if (code == SQLITE_OK) {
+    code = file->pMethods->xFileSize(file, &header.size);
+  }
+  if (code == SQLITE_OK && header.size >= kSmallestFile) {
+    code =
+        file->pMethods->xRead(file, header.bytes.data(), static_cast<int>(header.bytes.size()), 0);
+  }
+  if (code != SQLITE_OK) {
+    database.Fail(code);
+  }
+  return header;
+}
+
+void RequireReadable(Database& database, bool isProtected) {
+  try {
+    static_cast<void>(database.ReadNumber("SELECT count(*) FROM sqlite_master"));
+  } catch (const RuntimeError&) {
+    if ((sqlite3_errcode(database.Handle()) & 0xFF) == SQLITE_NOTADB) {
+      FailFile(database.Path(),
+               isProtected ? "could not be opened: the password is wrong, or it is damaged "
+                             "or not a data file."
+                           : "is damaged or not a data file.");
+    }
+    throw;
+  }
+}
+
+void SetUp(Database& database) {
+  if (sqlite3_db_readonly(database.Handle(), "main") != 0) {
+    FailFile(database.Path(), "can't be written. Is it or its folder write-protected?");
+  }
+  if (database.ReadText("PRAGMA journal_mode = WAL") != "wal") {
+    FailFile(database.Path(), "can't be written in its folder.");
+  }
+  // What the user was told is done is on the disk.
+  database.Run("PRAGMA synchronous = FULL");
+  RegisterFunctions(database);
+}
+
+}  // namespace
+
+std::unique_ptr<EngineConnection> FileEngine::Open(const std::string& path,
+                                                   const std::string& password) {
+  const std::string absolute = AbsolutePath(path);
+  RequireFile(absolute);
+  auto database = std::make_unique<Database>(absolute);
+  const FileHeader header = ReadHeader(*database);
+  if (header.size < kSmallestFile) {
+    FailFile(absolute, "is not a data file.");
+  }
+  if (password.empty() && !header.IsPlain()) {
+    FailFile(absolute, "is protected by a password or is not a data file.");
+  }
+  if (!password.empty()) {
+    if (header.IsPlain()) {
+      FailFile(absolute, "is not protected by a password and can't be opened with one.");
+    }
+    database->Unlock(keys_.KeyOf(header.bytes, password));
+  }
+  RequireReadable(*database, !password.empty());
+  SetUp(*database);
+  return std::make_unique<FileConnection>(std::move(database));
+}
+
+std::unique_ptr<EngineConnection> FileEngine::Create(const std::string& path,
+                                                     const std::string& password) {
+  const std::string absolute = AbsolutePath(path);
+  std::FILE* file = std::fopen(absolute.c_str(), "wbx");
+  if (file == nullptr) {
+    if (errno == EEXIST) {
+      throw RuntimeError(error_number::kFileAlreadyExists,
+                         fmt::format("The file {} is there already.", absolute));
+    }
+    FailFile(absolute, "could not be made. Can files be made in that folder?");
+  }
+  std::fclose(file);
+  try {
+    auto database = std::make_unique<Database>(absolute);
+    if (!password.empty()) {
+      database->Unlock(keys_.KeyOf(MakeSalt(), password));
+    }
+    SetUp(*database);
+    return std::make_unique<FileConnection>(std::move(database));
+  } catch (const RuntimeError&) {
+    std::error_code ignored;
+    fs::remove(absolute, ignored);
+    throw;
+  }
+}
+
+}  // namespace lorvane::sql
+
+namespace lorvane {
+
+std::unique_ptr<Engine> MakeFileEngine() { return std::make_unique<sql::FileEngine>(); }
+
+}  // namespace lorvane

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "basic/RuntimeError.h"
+#include "data/engine/Database.h"
+
+namespace lorvane::sql {
+
+/// The batches of a connection: from the outermost begin to its end there is one transaction.
+///
+/// A disk that fills up makes the library undo a transaction by itself. The batch then goes on: its
+/// next write begins another transaction.
+class Transactions {
+ public:
+  explicit Transactions(Database& database) : database_(&database) {}
+
+  void Begin();
+  void End();
+  [[nodiscard]] bool InBatch() const { return depth_ > 0; }
+
+  /// To be called before each write.
+  void PrepareWrite();
+  /// The error of a failed write, with a word on what it undid.
+  [[nodiscard]] RuntimeError Explain(const RuntimeError& error) const;
+  /// Commits an open batch at the end of the connection.
+  void Finish() noexcept;
+
+ private:
+  void Commit();
+
+  Database* database_;
+  int depth_ = 0;
+};
+
+/// Undoes what was written from here on, unless it is kept. Does nothing outside a transaction.
+class Savepoint {
+ public:
+  explicit Savepoint(Database& database, bool wanted = true);
+  Savepoint(const Savepoint&) = delete;
+  Savepoint& operator=(const Savepoint&) = delete;
+  ~Savepoint();
+
+  void Keep();
+
+ private:
+  Database* database_;
+  bool open_;
+};
+
+}  // namespace lorvane::sql
