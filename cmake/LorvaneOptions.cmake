@@ -5,6 +5,9 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 
+# The level that Debian builds its packages with.
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+
 add_compile_options(
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
   -Wsign-conversion -Wold-style-cast -Wcast-qual -Wdouble-promotion -Werror)
