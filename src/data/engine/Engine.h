@@ -67,6 +67,10 @@ class EngineConnection {
   /// Brings everything written into the data file itself, so that the file can be copied as it
   /// stands.
   virtual void Checkpoint() = 0;
+  /// Writes what the file holds, without its gaps and with its protection, to a new file, which is
+  /// on the disk in full when this returns. Raises 58 when there is one of that name; a failure
+  /// leaves no file behind.
+  virtual void WriteCompactCopy(const std::string& path) = 0;
   /// What is wrong inside the file, a sentence each; empty when nothing is.
   [[nodiscard]] virtual std::vector<std::string> CheckIntegrity() = 0;
 };

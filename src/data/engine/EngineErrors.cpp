@@ -29,7 +29,9 @@ RuntimeError ErrorOf(int extendedCode, const std::string& path, const std::strin
   const auto failure = [](std::string description) {
     return RuntimeError(error_number::kEngineFailure, std::move(description));
   };
-  switch (extendedCode & kPrimaryCode) {
+  // A function of the library's own that meets a full disk hands on the words and not the code.
+  const bool wordsOfFullDisk = message == sqlite3_errstr(SQLITE_FULL);
+  switch (wordsOfFullDisk ? SQLITE_FULL : extendedCode & kPrimaryCode) {
     case SQLITE_CONSTRAINT:
       return ConstraintError(extendedCode, message);
     case SQLITE_MISMATCH:

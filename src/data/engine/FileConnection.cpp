@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "basic/Text.h"
+#include "data/engine/CompactCopy.h"
 #include "data/engine/Lexer.h"
 #include "data/engine/Parser.h"
 #include "data/engine/Renderer.h"
@@ -245,15 +246,26 @@ void FileConnection::EndBatch() {
   Recorded([&] { transactions_.End(); });
 }
 
+void FileConnection::RefuseInBatch() const {
+  if (transactions_.InBatch()) {
+    throw RuntimeError(error_number::kEngineFailure,
+                       fmt::format("The file {} is being written.", database_->Path()));
+  }
+}
+
 void FileConnection::Checkpoint() {
   Recorded([&] {
-    if (transactions_.InBatch()) {
-      throw RuntimeError(error_number::kEngineFailure,
-                         fmt::format("The file {} is being written.", database_->Path()));
-    }
+    RefuseInBatch();
     if (database_->ReadNumber("PRAGMA wal_checkpoint(TRUNCATE)") != 0) {
       database_->Fail(SQLITE_BUSY);
     }
+  });
+}
+
+void FileConnection::WriteCompactCopy(const std::string& path) {
+  Recorded([&] {
+    RefuseInBatch();
+    sql::WriteCompactCopy(*database_, path);
   });
 }
 

@@ -37,6 +37,7 @@ class FileConnection : public EngineConnection {
   void EndBatch() override;
 
   void Checkpoint() override;
+  void WriteCompactCopy(const std::string& path) override;
   std::vector<std::string> CheckIntegrity() override;
 
  private:
@@ -47,6 +48,7 @@ class FileConnection : public EngineConnection {
   template <typename Operation>
   auto WithCatalog(Operation operation);
 
+  void RefuseInBatch() const;
   [[nodiscard]] const Table& TableNamed(std::string_view name);
   [[nodiscard]] SelectStatement& SelectIn(Statement& statement);
   [[nodiscard]] Rendered RenderWrite(Statement& statement);

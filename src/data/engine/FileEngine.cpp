@@ -4,8 +4,6 @@
 #include <sqlcipher/sqlite3.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 #include <filesystem>
 #include <string_view>
 #include <utility>
@@ -13,6 +11,7 @@
 #include "basic/RuntimeError.h"
 #include "data/engine/Database.h"
 #include "data/engine/FileConnection.h"
+#include "data/engine/NewFile.h"
 #include "data/engine/SqlFunctions.h"
 
 namespace lorvane::sql {
@@ -25,16 +24,6 @@ constexpr sqlite3_int64 kSmallestFile = 512;
 
 [[noreturn]] void FailFile(const std::string& path, std::string_view what) {
   throw RuntimeError(error_number::kEngineFailure, fmt::format("The file {} {}", path, what));
-}
-
-// An absolute path is never taken for one of the library's special names.
-std::string AbsolutePath(const std::string& path) {
-  std::error_code error;
-  const fs::path absolute = path.empty() ? fs::path() : fs::absolute(path, error);
-  if (path.empty() || error) {
-    throw RuntimeError(error_number::kEngineFailure, "No data file is named.");
-  }
-  return absolute.string();
 }
 
 void RequireFile(const std::string& path) {
@@ -133,27 +122,14 @@ std::unique_ptr<EngineConnection> FileEngine::Open(const std::string& path,
 std::unique_ptr<EngineConnection> FileEngine::Create(const std::string& path,
                                                      const std::string& password) {
   const std::string absolute = AbsolutePath(path);
-  std::FILE* file = std::fopen(absolute.c_str(), "wbx");
-  if (file == nullptr) {
-    if (errno == EEXIST) {
-      throw RuntimeError(error_number::kFileAlreadyExists,
-                         fmt::format("The file {} is there already.", absolute));
-    }
-    FailFile(absolute, "could not be made. Can files be made in that folder?");
+  NewFile file(absolute);
+  auto database = std::make_unique<Database>(absolute);
+  if (!password.empty()) {
+    database->Unlock(keys_.KeyOf(MakeSalt(), password));
   }
-  std::fclose(file);
-  try {
-    auto database = std::make_unique<Database>(absolute);
-    if (!password.empty()) {
-      database->Unlock(keys_.KeyOf(MakeSalt(), password));
-    }
-    SetUp(*database);
-    return std::make_unique<FileConnection>(std::move(database));
-  } catch (const RuntimeError&) {
-    std::error_code ignored;
-    fs::remove(absolute, ignored);
-    throw;
-  }
+  SetUp(*database);
+  file.Keep();
+  return std::make_unique<FileConnection>(std::move(database));
 }
 
 }  // namespace lorvane::sql

@@ -109,6 +109,48 @@ TEST_F(Files, CheckpointMakesTheFileWholeForACopy) {
   connection_->EndBatch();
 }
 
+TEST_F(Files, WritesACompactCopyOfTheSameProtection) {
+  for (int i = 0; i < 300; ++i) {
+    connection_->InsertRow("tblEmployees", {{"Notes", std::string(500, 'n')}, {"Visits", i}});
+  }
+  Run("DELETE FROM tblEmployees WHERE Visits > 1");
+  connection_->Checkpoint();
+  const std::string copyPath = folder_ + "/Copy.mdb";
+  const auto write = [&] {
+    return Try([&] {
+      connection_->WriteCompactCopy(copyPath);
+      return std::string();
+    });
+  };
+  EXPECT_EQ(write(), "");
+  EXPECT_LT(fs::file_size(copyPath), fs::file_size(path_) / 10);
+  EXPECT_EQ(Refusal(copyPath, ""),
+            "The file " + copyPath + " is protected by a password or is not a data file.");
+  const std::unique_ptr<EngineConnection> copy = engine_.Open(copyPath, kPassword);
+  EXPECT_EQ(Rows(*copy, "SELECT EmployeeId, Visits FROM tblEmployees"), "1|0;2|1");
+  EXPECT_TRUE(copy->CheckIntegrity().empty());
+  EXPECT_TRUE(copy->ColumnsOf("tblEmployees")[0].isKey);
+  EXPECT_EQ(write(), "3a");
+  EXPECT_EQ(Run("INSERT INTO tblEmployees (Visits) VALUES (5)"), "1");
+}
+
+TEST_F(Files, ACompactCopyThatDoesNotFitLeavesNothingBehind) {
+  connection_.reset();
+  FaultyVfs disk;
+  connection_ = engine_.Open(path_, kPassword);
+  disk.FillAfter(2000);
+  EXPECT_EQ(Try([&] {
+              connection_->WriteCompactCopy(folder_ + "/Copy.mdb");
+              return std::string();
+            }),
+            "80070070");
+  disk.Heal();
+  EXPECT_FALSE(fs::exists(folder_ + "/Copy.mdb"));
+  EXPECT_EQ(Run("INSERT INTO tblEmployees (Visits) VALUES (5)"), "1");
+  connection_.reset();
+  EXPECT_EQ(NamesInFolder(), std::vector<std::string>{"Data.mdb"});
+}
+
 TEST_F(Files, DerivesTheKeyOfAnOpenFileOnce) {
   EXPECT_EQ(engine_.Keys().Derivations(), 1);
   EXPECT_EQ(Refusal(path_, "sesame").empty(), false);
