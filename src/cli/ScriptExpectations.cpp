@@ -44,28 +44,24 @@ bool Matches(const std::string& expected, const std::string& found) {
   return expected == kAny || WithLineFeeds(expected) == WithLineFeeds(found);
 }
 
-void CompareShown(const Expectation& expectation, const std::optional<ShownBox>& shown,
-                  bool anyText) {
-  const std::string& title = expectation.Argument(0);
-  const std::string& text = expectation.Argument(1);
-  const std::string expected =
-      "expected " + expectation.line.words[1].text + " " + WrittenBox({title, text});
+void CompareShown(const Expectation& expectation, const std::optional<ShownBox>& shown) {
+  const ShownBox expected{expectation.Argument(0), expectation.Argument(1)};
+  const std::string sentence =
+      "expected " + expectation.line.words[1].text + " " + WrittenBox(expected);
   if (!shown) {
-    throw ScriptFailure{expected + " but there is none"};
+    throw ScriptFailure{sentence + " but there is none"};
   }
-  const bool textHolds =
-      anyText ? Matches(text, shown->text) : WithLineFeeds(text) == WithLineFeeds(shown->text);
-  if (!Matches(title, shown->title) || !textHolds) {
-    throw ScriptFailure{expected + " but it is " + WrittenBox(*shown)};
+  if (!Matches(expected.title, shown->title) || !Matches(expected.text, shown->text)) {
+    throw ScriptFailure{sentence + " but it is " + WrittenBox(*shown)};
   }
 }
 
 void ExpectBox(const Expectation& expectation) {
-  CompareShown(expectation, expectation.dialogue.TakeBox(), false);
+  CompareShown(expectation, expectation.dialogue.TakeBox());
 }
 
 void ExpectInput(const Expectation& expectation) {
-  CompareShown(expectation, expectation.dialogue.TakeInput(), true);
+  CompareShown(expectation, expectation.dialogue.TakeInput());
 }
 
 void ExpectNoBox(const Expectation& expectation) {

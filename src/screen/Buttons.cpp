@@ -12,6 +12,17 @@ Command::Command(Screen& screen, std::string name, std::string caption, std::str
   SetTip(std::move(tip));
 }
 
+bool Command::UserKey(int key) {
+  if (Control::UserKey(key)) {
+    return true;
+  }
+  const bool presses = key == key_code::kEnter || key == ' ';
+  if (presses) {
+    UserClick();
+  }
+  return presses;
+}
+
 Label::Label(Screen& screen, std::string name, std::string caption)
     : Control(screen, std::move(name)) {
   SetCaption(std::move(caption));

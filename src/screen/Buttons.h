@@ -11,6 +11,9 @@ namespace lorvane {
 class Command : public Control {
  public:
   Command(Screen& screen, std::string name, std::string caption = {}, std::string tip = {});
+
+  /// Enter and the space bar press it.
+  bool UserKey(int key) override;
 };
 
 /// A text that a user only reads.

@@ -71,8 +71,8 @@ struct ShellResult {
   int process = 0;
 };
 
-/// Thrown through everything when the program ends at once, without closing any screen. Fronts catch it
-/// where they call a screen, and leave with the status.
+/// Thrown through everything when the program ends at once, without closing any screen. Fronts
+/// catch it where they call a screen, and leave with the status.
 struct ProgramEnded {
   int exitStatus = 0;
 };

@@ -16,10 +16,10 @@ void ShowManual(ScreenContext context) {
       services.MsgBox("Could not find Internet Explorer.  Please ensure that it is installed.",
                       box::kInformation, "IE 4.0 Not Found");
     } else {
-      services.MsgBox("You have encountered the following error: " +
-                          std::to_string(error.Number()) + kCrLf + "Description: " +
-                          error.Description(),
-                      box::kPlain, "Error");
+      services.MsgBox(
+          "You have encountered the following error: " + std::to_string(error.Number()) + kCrLf +
+              "Description: " + error.Description(),
+          box::kPlain, "Error");
     }
   }
   services.SetPointer(pointer::kDefault);

@@ -26,7 +26,7 @@ ScriptOutcome RunOnSmallScreens(std::string_view script, const std::string& fold
   stage.screens = SmallScreens();
   stage.endOnError = [](ScreenContext context, const RuntimeError& error) {
     ShowError(context, error, box::kCritical);
-    context.services.EndProgram(1);
+    throw ProgramEnded{1};
   };
   ScriptRunner runner(std::move(stage), {in, out, err}, clock);
   const bool holds = runner.Run("story", script, {{"DIR", folder}});

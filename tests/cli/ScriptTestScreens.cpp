@@ -43,7 +43,7 @@ SmallMain::SmallMain(ScreenContext context)
   mnuFExit_.OnClick = [this] { Close(); };
 }
 
-bool SmallMain::QueryUnload() { context_.services.EndProgram(0); }
+bool SmallMain::QueryUnload() { throw ProgramEnded{}; }
 
 void SmallMain::OpenCompany() {
   Session& session = context_.session;

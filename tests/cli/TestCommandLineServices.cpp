@@ -14,6 +14,7 @@ namespace {
 class CommandLineServicesTest : public testing::Test {
  protected:
   CommandLineServices Make(bool interactive, bool assumeYes, const std::string& typed = {}) {
+    in_.clear();
     in_.str(typed);
     return {
         session_, screens_, {in_, out_, err_, interactive}, FixedClock({2026, 1, 5}), assumeYes};

@@ -76,7 +76,7 @@ constexpr Story kStories[] = {
     {"what can't be used is left alone",
      "click cmdOff\nclick cmdHidden\nexpect cmdHidden.visible false\nexpect cmdOff.enabled false\n"
      "expect lblLog \"\"\nexpect focus \"\""},
-    {"properties of the screen and of a report", "expect changed false\nexpect report.period May"},
+    {"properties of the screen and of a report", "expect Changed false\nexpect report.period May"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Stories, ScriptActionHolds, testing::ValuesIn(kStories));

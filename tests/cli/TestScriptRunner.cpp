@@ -109,7 +109,7 @@ TEST(ScriptRunner, AnswersAreTakenInTurnAndMustFit) {
       "answer \"Burke\"\nanswer cancel\nanswer ok\nmenu mnuFFind\nmenu mnuFFind\nmenu mnuFFind\n"
       "expect box Lorvane Burke\nexpect box Lorvane \"\"\nexpect box Lorvane Doe\n"
       "expect input Find \"Whom?\"\nexpect input * *");
-  ExpectFails("2: no answer is left for \"Ask\" \"Shall\\nit?\"", "print pointer\nmenu mnuFAsk");
+  ExpectFails("2: no answer is left for \"Ask\" \"Shall\\nit?\"", "expect pointer 0\nmenu mnuFAsk");
   ExpectFails("1: the answer \"yes\" is left over", "answer \"yes\"\nexpect nobox");
   ExpectFails("2: \"Ask\" \"Shall\\nit?\" can't be answered with cancel",
               "answer cancel\nmenu mnuFAsk");
