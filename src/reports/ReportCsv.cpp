@@ -27,6 +27,7 @@ std::string CsvCell(const std::string& text) {
 
 std::string CsvLine(const std::vector<std::string>& cells) {
   std::vector<std::string> quoted;
+  quoted.reserve(cells.size());
   for (const std::string& cell : cells) {
     quoted.push_back(CsvCell(cell));
   }
@@ -35,6 +36,7 @@ std::string CsvLine(const std::vector<std::string>& cells) {
 
 std::string ReportAsCsv(const ReportDocument& report) {
   std::vector<std::string> cells;
+  cells.reserve(report.columns.size());
   for (const ReportColumn& column : report.columns) {
     cells.push_back(column.heading);
   }

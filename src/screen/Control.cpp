@@ -10,6 +10,8 @@ Control::Control(Screen& screen, std::string name) : screen_(&screen), name_(std
   screen.Register(*this);
 }
 
+Control::~Control() { screen_->Forget(*this); }
+
 void Control::SetEnabled(bool enabled) {
   enabled_ = enabled;
   Changed();

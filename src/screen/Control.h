@@ -32,7 +32,7 @@ class Control {
   Control(Screen& screen, std::string name);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
-  virtual ~Control() = default;
+  virtual ~Control();
 
   [[nodiscard]] const std::string& Name() const { return name_; }
   [[nodiscard]] Screen& Owner() const { return *screen_; }

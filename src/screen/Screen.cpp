@@ -111,4 +111,11 @@ void Screen::PopUp(Control& menu) const {
 
 void Screen::Register(Control& control) { controls_.push_back(&control); }
 
+void Screen::Forget(const Control& control) {
+  std::erase(controls_, &control);
+  if (focus_ == &control) {
+    focus_ = nullptr;
+  }
+}
+
 }  // namespace lorvane

@@ -93,6 +93,7 @@ class Screen {
  private:
   friend class Control;
   void Register(Control& control);
+  void Forget(const Control& control);
 
   std::string name_;
   std::string caption_;
