@@ -7,7 +7,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <utility>
 
 #include "basic/RuntimeError.h"
@@ -36,6 +35,16 @@ namespace fs = std::filesystem;
     default:
       throw RuntimeError(error_number::kPathFileAccess, sentence);
   }
+}
+
+// Hands the file's content on in blocks; false when it can't be read to its end.
+template <typename Take>
+bool ReadBlocks(std::ifstream& file, Take take) {
+  std::string block(1U << 16U, '\0');
+  while (file.read(block.data(), static_cast<std::streamsize>(block.size())) || file.gcount() > 0) {
+    take(std::string_view(block).substr(0, static_cast<std::size_t>(file.gcount())));
+  }
+  return !file.bad();
 }
 
 // A new file that is removed again unless it was finished.
@@ -94,14 +103,17 @@ void SyncFolderOf(const std::string& path) {
 
 std::optional<std::string> DiskFiles::Read(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
-  if (!file || fs::is_directory(path)) {
+  std::string content;
+  if (!file || !ReadBlocks(file, [&](std::string_view block) { content.append(block); })) {
     return std::nullopt;
   }
-  return std::string(std::istreambuf_iterator<char>(file), {});
+  return content;
 }
 
 void DiskFiles::Write(const std::string& path, std::string_view content) {
   const std::string temporary = path + ".new" + std::to_string(getpid());
+  // What a program of the same number may have left behind in a crash.
+  unlink(temporary.c_str());
   NewFile file(temporary);
   file.Write(content);
   file.Finish();
@@ -115,16 +127,11 @@ void DiskFiles::Write(const std::string& path, std::string_view content) {
 
 void DiskFiles::Copy(const std::string& from, const std::string& to) {
   std::ifstream source(from, std::ios::binary);
-  if (!source || fs::is_directory(from)) {
-    Fail(ENOENT, from);
+  if (!source) {
+    Fail(errno, from);
   }
   NewFile target(to);
-  std::string block(1U << 16U, '\0');
-  while (source.read(block.data(), static_cast<std::streamsize>(block.size())) ||
-         source.gcount() > 0) {
-    target.Write(std::string_view(block).substr(0, static_cast<std::size_t>(source.gcount())));
-  }
-  if (source.bad()) {
+  if (!ReadBlocks(source, [&](std::string_view block) { target.Write(block); })) {
     Fail(EIO, from);
   }
   target.Finish();
@@ -149,9 +156,9 @@ std::string FindWithoutCase(const std::string& path) {
   }
   const std::string folder = GetPathPart(path);
   const std::string name = GetNamePart(path);
-  for (const fs::directory_entry& entry :
-       fs::directory_iterator(folder.empty() ? "." : folder, ignored)) {
-    const std::string candidate = entry.path().filename().string();
+  for (fs::directory_iterator entry(folder.empty() ? "." : folder, ignored);
+       entry != fs::directory_iterator(); entry.increment(ignored)) {
+    const std::string candidate = entry->path().filename().string();
     if (EqualsNoCase(candidate, name)) {
       return folder + candidate;
     }

@@ -20,8 +20,12 @@ struct Overloaded : Cases... {
 template <typename... Cases>
 Overloaded(Cases...) -> Overloaded<Cases...>;
 
+// None for an empty list: an unknown filter reads nothing.
 std::vector<std::string> ColumnsOfList(std::string_view list) {
-  std::vector<std::string> columns = Split(list, ',');
+  std::vector<std::string> columns;
+  if (!list.empty()) {
+    columns = Split(list, ',');
+  }
   for (std::string& column : columns) {
     column = Trim(column);
   }

@@ -1,5 +1,6 @@
 #include "data/cINI.h"
 
+#include <optional>
 #include <utility>
 
 #include "basic/RuntimeError.h"
@@ -35,7 +36,12 @@ void cINI::KeySave(const std::string& keyValue, const std::string& section,
   Take(section, Section);
   Take(keyName, KeyName);
   const std::string found = FindWithoutCase(ConfigName);
-  IniDocument document(files_->Read(found).value_or(""));
+  const std::optional<std::string> content = files_->Read(found);
+  if (!content && files_->Exists(found)) {
+    // Writing over a file that can't be read would lose its other keys.
+    return;
+  }
+  IniDocument document(content.value_or(""));
   document.Set(Section, KeyName, KeyValue);
   try {
     files_->Write(ConfigName, document.Text());

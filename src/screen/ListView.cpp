@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "basic/Number.h"
 #include "basic/RuntimeError.h"
 #include "data/engine/Collation.h"
 #include "screen/Screen.h"
@@ -129,6 +130,14 @@ std::optional<std::string> ListView::Attribute(std::string_view name) const {
   }
   if (name == "index") {
     return std::to_string(current_);
+  }
+  constexpr std::string_view heading = "column_";
+  if (name.starts_with(heading)) {
+    const std::optional<double> place = ParseNumber(name.substr(heading.size()));
+    if (place && *place >= 0 && *place < static_cast<double>(columns_.size())) {
+      return columns_[static_cast<std::size_t>(*place)].heading;
+    }
+    return std::nullopt;
   }
   return Control::Attribute(name);
 }
