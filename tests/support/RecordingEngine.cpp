@@ -21,9 +21,7 @@ class RecordingEngine::Connection : public EngineConnection {
     return {"", Query(statement), {}};
   }
   void UpdateRow(const std::string&, std::int64_t, const ColumnValues&) override {}
-  std::int64_t InsertRow(const std::string&, const ColumnValues&) override {
-    return static_cast<std::int64_t>(++engine_->rowsAdded_);
-  }
+  std::int64_t InsertRow(const std::string&, const ColumnValues&) override { return 0; }
   const std::vector<EngineError>& Errors() const override { return errors_; }
   std::vector<std::string> TableNames() override { return {}; }
   bool HasTable(const std::string&) override { return false; }
@@ -88,12 +86,8 @@ ResultTable MakeRows(const std::vector<std::string>& columns,
 }
 
 std::string ForSlot(std::string_view text, IndustrySlot slot) {
-  return Replace(text, "?", std::string(1, LetterOf(slot)));
-}
-
-RecordingTest::RecordingTest()
-    : connection_({&engine_, "/program", [] { return DateTime{2026, 1, 5, 10, 0, 0}; }}) {
-  connection_.DataOpen();
+  return Replace(Replace(text, "?", std::string(1, LetterOf(slot))), "%",
+                 std::to_string(NumberOf(slot)));
 }
 
 }  // namespace lorvane
