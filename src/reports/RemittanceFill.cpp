@@ -195,43 +195,46 @@ void RemittanceFill::LookUpNames(const RemittanceKind& kind) {
 }
 
 void RemittanceFill::LookUpEmployeeNames() {
-  DataConnection& connection = *context_.session.gDataConn;
   cEmployee employee;
-  employee.SetDataConnection(&connection);
-  Recordset rows;
-  rows.OpenForUpdate(connection.Connection(), "SELECT * FROM tblEmpRemittance");
-  SetProgressMaximum(static_cast<double>(rows.RecordCount()));
-  for (counter_ = 1; !rows.Eof(); counter_ = NextInteger(counter_), rows.MoveNext()) {
-    SetProgressValue(counter_);
+  LookUp("SELECT * FROM tblEmpRemittance", employee, [&](Recordset& rows) {
     employee.WhereFilter = cEmployee::kWhereKey;
     employee.EmployeeId = NullToLong(rows.Field("EmployeeId"));
-    if (employee.Find()) {
-      rows.SetField("LastName", TextOrNull(employee.LastName, kNameSize));
-      rows.SetField("FirstName", TextOrNull(employee.FirstName, kFirstNameSize));
-      rows.SetField("Initial", TextOrNull(employee.Initial, kInitialSize));
-    } else {
-      context_.services.MsgBox(employee.InfoMsg());
+    if (!employee.Find()) {
+      return false;
     }
-    rows.Update();
-  }
+    rows.SetField("LastName", TextOrNull(employee.LastName, kNameSize));
+    rows.SetField("FirstName", TextOrNull(employee.FirstName, kFirstNameSize));
+    rows.SetField("Initial", TextOrNull(employee.Initial, kInitialSize));
+    return true;
+  });
 }
 
 void RemittanceFill::LookUpSubContractorNames() {
-  DataConnection& connection = *context_.session.gDataConn;
   cSubContractor subContractor;
-  subContractor.SetDataConnection(&connection);
-  Recordset rows;
-  rows.OpenForUpdate(connection.Connection(), "SELECT * FROM tblSubRemittance");
-  SetProgressMaximum(static_cast<double>(rows.RecordCount()));
-  for (counter_ = 1; !rows.Eof(); counter_ = NextInteger(counter_), rows.MoveNext()) {
-    SetProgressValue(counter_);
+  LookUp("SELECT * FROM tblSubRemittance", subContractor, [&](Recordset& rows) {
     subContractor.SelectFilter = cSubContractor::kSelectNames;
     subContractor.WhereFilter = cSubContractor::kWhereKey;
     subContractor.SubContractId = NullToLong(rows.Field("SubContractId"));
-    if (subContractor.Find()) {
-      rows.SetField("Name", TextOrNull(subContractor.Name, kNameSize));
-    } else {
-      context_.services.MsgBox(subContractor.InfoMsg());
+    if (!subContractor.Find()) {
+      return false;
+    }
+    rows.SetField("Name", TextOrNull(subContractor.Name, kNameSize));
+    return true;
+  });
+}
+
+// Goes through the scratch table; a payee who isn't on file is told, row by row, and left as it is.
+template <typename NameRow>
+void RemittanceFill::LookUp(const char* statement, Record& payee, NameRow nameRow) {
+  DataConnection& connection = *context_.session.gDataConn;
+  payee.SetDataConnection(&connection);
+  Recordset rows;
+  rows.OpenForUpdate(connection.Connection(), statement);
+  SetProgressMaximum(static_cast<double>(rows.RecordCount()));
+  for (counter_ = 1; !rows.Eof(); counter_ = NextInteger(counter_), rows.MoveNext()) {
+    SetProgressValue(counter_);
+    if (!nameRow(rows)) {
+      context_.services.MsgBox(payee.InfoMsg());
     }
     rows.Update();
   }

@@ -16,6 +16,7 @@ struct RemittanceHeadings {
   std::string Identifier;
 };
 
+class Record;
 struct RemittanceKind;
 
 /// The filling of the scratch tables for a period: the rows of the payment history in a date range,
@@ -59,6 +60,8 @@ class RemittanceFill {
   void LookUpNames(const RemittanceKind& kind);
   void LookUpEmployeeNames();
   void LookUpSubContractorNames();
+  template <typename NameRow>
+  void LookUp(const char* statement, Record& payee, NameRow nameRow);
 
   void SetProgressMaximum(double maximum);
   void SetProgressValue(std::int16_t value);
