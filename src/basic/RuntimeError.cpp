@@ -1,5 +1,7 @@
 #include "basic/RuntimeError.h"
 
+#include <fmt/format.h>
+
 #include <array>
 #include <utility>
 
@@ -55,6 +57,11 @@ RuntimeError::RuntimeError(std::int32_t number, std::string description)
     : number_(number), description_(std::move(description)) {}
 
 RuntimeError::RuntimeError(std::int32_t number) : RuntimeError(number, UsualSentenceOf(number)) {}
+
+std::string ErrorNumberText(std::int32_t number) {
+  return number >= 0 ? std::to_string(number)
+                     : fmt::format("0x{:08X}", static_cast<std::uint32_t>(number));
+}
 
 std::string NumberAndDescription(const RuntimeError& error) {
   return std::to_string(error.Number()) + kCrLf + error.Description();

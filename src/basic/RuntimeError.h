@@ -60,6 +60,9 @@ class RuntimeError : public std::exception {
   std::string description_;
 };
 
+/// The number as people know it: 13, or 0x80040E37 for those of the data engine.
+[[nodiscard]] std::string ErrorNumberText(std::int32_t number);
+
 /// Number, line break, description: how a box shows an error.
 [[nodiscard]] std::string NumberAndDescription(const RuntimeError& error);
 

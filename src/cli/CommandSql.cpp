@@ -1,17 +1,11 @@
 #include <iostream>
 
-#include "basic/RuntimeError.h"
-#include "basic/Text.h"
 #include "cli/Commands.h"
+#include "cli/Statements.h"
 #include "reports/ReportDocument.h"
 
 namespace lorvane {
 namespace {
-
-bool IsSelect(const std::string& statement) {
-  const std::size_t first = statement.find_first_not_of(" \t\r\n(");
-  return first != std::string::npos && EqualsNoCase(statement.substr(first, 6), "SELECT");
-}
 
 void PrintRows(const ResultTable& table) {
   std::vector<std::string> cells;

@@ -8,9 +8,9 @@
 #include <string_view>
 
 #include "basic/Text.h"
-#include "cli/FirstValue.h"
 #include "cli/ScriptErrors.h"
 #include "cli/ScriptValues.h"
+#include "cli/Statements.h"
 
 namespace lorvane {
 namespace {

@@ -14,6 +14,7 @@
 #include "cli/ScriptActions.h"
 #include "cli/ScriptExpectations.h"
 #include "cli/ScriptValues.h"
+#include "cli/Statements.h"
 #include "data/engine/Engine.h"
 
 namespace lorvane {
@@ -56,30 +57,14 @@ std::optional<std::int32_t> ParseErrorNumber(std::string_view text) {
   return static_cast<std::int32_t>(number);
 }
 
-std::string NumberText(std::int32_t number) {
-  if (number >= 0) {
-    return std::to_string(number);
-  }
-  std::array<char, 8> digits{};
-  constexpr int kHexadecimal = 16;
-  const auto written = std::to_chars(digits.data(), digits.data() + digits.size(),
-                                     static_cast<std::uint32_t>(number), kHexadecimal);
-  return "0x" + ToUpper(std::string_view(digits.data(),
-                                         static_cast<std::size_t>(written.ptr - digits.data())));
-}
-
 std::string ErrorText(const RuntimeError& error) {
-  return "run-time error " + NumberText(error.Number()) + ": " + OnOneLine(error.Description());
+  return "run-time error " + ErrorNumberText(error.Number()) + ": " +
+         OnOneLine(error.Description());
 }
 
 // The line that "fails NUMBER LINE" runs.
 ScriptLine InnerLine(const ScriptLine& line) {
   return {line.number, {line.words.begin() + 2, line.words.end()}};
-}
-
-bool IsSelect(std::string_view statement) {
-  constexpr std::string_view kSelect = "SELECT";
-  return EqualsNoCase(Left(Trim(statement), kSelect.size()), kSelect);
 }
 
 }  // namespace
@@ -256,7 +241,7 @@ void ScriptRunner::OpenCompany(const std::string& path) {
 
 void ScriptRunner::RunFailing(const ScriptLine& line) {
   const std::int32_t expected = *ParseErrorNumber(line.words[1].text);
-  const std::string sentence = "expected run-time error " + NumberText(expected);
+  const std::string sentence = "expected run-time error " + ErrorNumberText(expected);
   try {
     RunLine(InnerLine(line));
   } catch (const UnhandledError& failed) {

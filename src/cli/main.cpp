@@ -42,7 +42,8 @@ class CommandLine {
     } catch (const CommandFailure& failure) {
       std::cerr << "lorvane-cli: " << failure.what() << '\n';
     } catch (const RuntimeError& error) {
-      std::cerr << "lorvane-cli: error " << error.Number() << ": " << error.Description() << '\n';
+      std::cerr << "lorvane-cli: error " << ErrorNumberText(error.Number()) << ": "
+                << error.Description() << '\n';
     } catch (const ProgramEnded& ended) {
       return ended.exitStatus;
     }

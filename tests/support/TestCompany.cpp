@@ -1,7 +1,7 @@
 #include "support/TestCompany.h"
 
 #include "basic/RuntimeError.h"
-#include "cli/FirstValue.h"
+#include "cli/Statements.h"
 #include "company/modNewCompany.h"
 
 namespace lorvane {
