@@ -40,6 +40,7 @@ int RunPost(const CommandOptions& options, const PostOptions& post) {
                             (post.payees.employees ? "tblEmpHistory" : "tblSubHistory");
   const auto before = std::get<std::int32_t>(program.QueryValue(count));
   bool posted = false;
+  int entries = 0;
   PaymentWindow::Open(program, post.payees, [&](PaymentWindow& window) {
     const std::vector<int> rows = RowsOf(window, post);
     if (!post.payees.employees) {
@@ -47,12 +48,19 @@ int RunPost(const CommandOptions& options, const PostOptions& post) {
         window.ReadBack(row);
       }
     }
+    entries = window.EntriesIn(rows);
     posted = window.Post(rows, date->Day());
   });
   if (!posted) {
     return 1;
   }
   const auto after = std::get<std::int32_t>(program.QueryValue(count));
+  if (after - before < entries) {
+    throw CommandFailure("Only " + std::to_string(after - before) + " of " +
+                         std::to_string(entries) +
+                         " payments could be written; the others are still saved as entries. "
+                         "'check' may tell why.");
+  }
   std::cout << "Posted " << after - before << " payments of " << ShortDate(date->Day()) << ".\n";
   return 0;
 }

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "basic/RuntimeError.h"
 #include "basic/Text.h"
 #include "cli/CompanyCheck.h"
 #include "cli/Console.h"
@@ -48,6 +49,13 @@ void CommandProgram::OpenCompanyForPayments() {
   const std::vector<std::string> findings = CheckAssessmentSettings(*session_);
   if (!findings.empty()) {
     throw CommandFailure(findings.front());
+  }
+}
+
+void CommandProgram::RaiseEngineError() {
+  const std::vector<EngineError>& errors = Connection().Errors();
+  if (!errors.empty()) {
+    throw RuntimeError(errors.front().number, errors.front().description);
   }
 }
 

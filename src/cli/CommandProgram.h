@@ -42,6 +42,9 @@ class CommandProgram {
   [[nodiscard]] CommandLineServices& Services() { return *services_; }
   [[nodiscard]] ScreenContext Context() { return services_->Context(); }
   [[nodiscard]] EngineConnection& Connection() { return session_->gDataConn->Connection(); }
+  /// Raises the engine's error that a window or a record passed over in silence, if there was one:
+  /// a command that met it isn't done.
+  void RaiseEngineError();
   /// The first value of a statement's first row; null when there is none.
   [[nodiscard]] Value QueryValue(const std::string& statement);
 

@@ -88,14 +88,16 @@ int RunRemittance(const CommandOptions& options, const RemittanceOptions& remitt
                                                             : RemittancePayees::kSubContractors);
   AddHeadings(program, fill, remittance, period, industryItem, report);
   const std::string text = extension == ".csv" ? ReportAsCsv(report) : ReportAsText(report);
+  // Whether the list reaches its place or not, the scratch table is empty again.
+  program.Connection().Execute(remittance.payees.employees ? "DELETE * FROM tblEmpRemittance"
+                                                           : "DELETE * FROM tblSubRemittance");
+  program.RaiseEngineError();
   if (remittance.output.empty()) {
     std::cout << text;
   } else {
     program.GetSession().files.Write(remittance.output, text);
     std::cout << "Wrote " << remittance.output << ".\n";
   }
-  program.Connection().Execute(remittance.payees.employees ? "DELETE * FROM tblEmpRemittance"
-                                                           : "DELETE * FROM tblSubRemittance");
   return 0;
 }
 

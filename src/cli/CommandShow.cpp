@@ -61,6 +61,7 @@ Json Describe(CommandProgram& program) {
         program.QueryValue(std::string("SELECT Count(*) AS Rows FROM ") + counted.table);
     result["counts"][counted.name] = std::get<std::int32_t>(count);
   }
+  program.RaiseEngineError();
   return result;
 }
 

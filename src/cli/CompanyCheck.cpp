@@ -7,6 +7,7 @@
 #include "basic/Number.h"
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
+#include "data/Files.h"
 #include "data/Schema.h"
 #include "data/modDataAccess.h"
 
@@ -24,10 +25,17 @@ std::string PlaceInFile(const Session& session, std::string_view section) {
   return "'" + session.gConfigFile + "', section [" + std::string(section) + "]";
 }
 
+bool HasConfigFile(const Session& session) {
+  return session.files.Exists(FindWithoutCase(session.gConfigFile));
+}
+
 template <typename Keys>
 std::vector<std::string> CheckKeyOrder(const Session& session, const char* section,
                                        const Keys& keys) {
   const std::vector<std::string> lines = session.Ini().SectionGet(section);
+  if (lines.empty()) {
+    return {"'" + session.gConfigFile + "' has no section [" + section + "]."};
+  }
   for (std::size_t i = 0; i < keys.size(); ++i) {
     const std::string line = i < lines.size() ? lines[i] : std::string();
     if (!EqualsNoCase(line.substr(0, line.find('=')), keys[i])) {
@@ -121,6 +129,9 @@ std::vector<std::string> CheckKeyCounters(EngineConnection& connection) {
 }  // namespace
 
 std::vector<std::string> CheckAssessmentSettings(const Session& session) {
+  if (!HasConfigFile(session)) {
+    return {"'" + session.gConfigFile + "' does not exist."};
+  }
   std::vector<std::string> findings = CheckKeyOrder(session, kAssessment, kAssessmentKeys);
   if (!findings.empty()) {
     return findings;
@@ -145,6 +156,8 @@ std::vector<std::string> CheckCompany(const Session& session) {
   EngineConnection& connection = session.gDataConn->Connection();
   std::vector<std::string> findings = connection.CheckIntegrity();
   if (!findings.empty()) {
+    findings.insert(findings.begin(), "The file " + session.gDataConn->DataSource +
+                                          " is damaged. What was found in it:");
     return findings;
   }
   Append(findings, CheckSchema(connection));
@@ -159,7 +172,9 @@ std::vector<std::string> CheckCompany(const Session& session) {
     Append(findings, CheckKeyCounters(connection));
   }
   Append(findings, CheckAssessmentSettings(session));
-  Append(findings, CheckKeyOrder(session, kRemittance, kRemittanceKeys));
+  if (HasConfigFile(session)) {
+    Append(findings, CheckKeyOrder(session, kRemittance, kRemittanceKeys));
+  }
   return findings;
 }
 

@@ -1,5 +1,7 @@
 #include "cli/PaymentWindow.h"
 
+#include <algorithm>
+
 #include "basic/Number.h"
 #include "basic/Text.h"
 #include "payments/frmPayment.h"
@@ -32,6 +34,7 @@ void PaymentWindow::Open(CommandProgram& program, const PayeeOptions& payees,
     PaymentWindow window(program, dynamic_cast<frmSelectAssessment&>(screen));
     window.Choose(payees);
     work(window);
+    program.RaiseEngineError();
     window.window_.RefreshList();  // nothing is left unsaved, so that closing asks nothing
   });
   program.Services().OpenScreen("frmSelectAssessment", {});
@@ -42,11 +45,14 @@ void PaymentWindow::Choose(const PayeeOptions& payees) {
   OptionButton& option = payees.employees ? window_.optEmployee : window_.optSubContractor;
   option.UserClick();
   const int index = ListIndexByData(window_.lstIndustries, NumberOf(slot));
+  program_.RaiseEngineError();
   if (index < 0) {
     throw CommandFailure("Industry " + std::string(1, LetterOf(slot)) +
                          " isn't in use in this company.");
   }
   window_.lstIndustries.UserSelect(index);
+  program_.RaiseEngineError();
+  paymentPlace_ = payees.employees ? EmployeeList::kPaymentPlace : SubContractorList::kPaymentPlace;
   for (int row = 0; row < window_.lvwPayments.Count(); ++row) {
     rowsById_[ToLong(window_.lvwPayments.Cell(row, 0))] = row;
   }
@@ -72,7 +78,33 @@ void PaymentWindow::ReadBack(int row) {
   window_.menus.cmdTbrUndo.UserClick();
 }
 
-void PaymentWindow::Save() { window_.menus.cmdTbrSave.UserClick(); }
+void PaymentWindow::Save() {
+  std::vector<std::string> payments;
+  for (int row = 0; row < window_.lvwPayments.Count(); ++row) {
+    payments.push_back(PaymentText(row));
+  }
+  window_.menus.cmdTbrSave.UserClick();
+  program_.RaiseEngineError();
+  // The list was read again: what a record refused is back to what it was.
+  for (const auto& [id, row] : rowsById_) {
+    if (PaymentText(row) != payments[static_cast<std::size_t>(row)]) {
+      throw CommandFailure("The payment of id " + std::to_string(id) + " was not saved.");
+    }
+  }
+}
+
+const std::string& PaymentWindow::PaymentText(int row) const {
+  return window_.lvwPayments.Cell(row, paymentPlace_);
+}
+
+int PaymentWindow::EntriesIn(const std::vector<int>& rows) const {
+  // An employee's assessable amount is what is settled and posted.
+  const std::size_t place =
+      window_.optEmployee.Chosen() ? PayeeList::kAssessablePlace : SubContractorList::kPaymentPlace;
+  return static_cast<int>(std::count_if(rows.begin(), rows.end(), [&](int row) {
+    return ToDouble(window_.lvwPayments.Cell(row, place)) != 0;
+  }));
+}
 
 bool PaymentWindow::Post(const std::vector<int>& rows, const DateTime& date) {
   program_.Services().OnInput("Year", std::to_string(date.year));
@@ -84,7 +116,17 @@ bool PaymentWindow::Post(const std::vector<int>& rows, const DateTime& date) {
   program_.GetSession().PostingDate = Session::kNoPostingDate;
   window_.lvwPayments.UserSelectRows(rows);
   window_.menus.cmdTbrPost.UserClick();
-  return program_.GetSession().PostingDate != Session::kNoPostingDate;
+  program_.RaiseEngineError();
+  if (program_.GetSession().PostingDate == Session::kNoPostingDate) {
+    return false;
+  }
+  for (const int row : rows) {
+    if (ToDouble(PaymentText(row)) != 0) {
+      throw CommandFailure("The payment of id " + window_.lvwPayments.Cell(row, 0) +
+                           " was not posted.");
+    }
+  }
+  return true;
 }
 
 }  // namespace lorvane

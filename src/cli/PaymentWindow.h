@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -28,17 +29,23 @@ class PaymentWindow {
   /// Opens a row, leaves it, and takes the last entry back, so that the row shows its saved amounts
   /// in every column.
   void ReadBack(int row);
+  /// Saves every row. Raises CommandFailure when a row's payment isn't on file afterwards.
   void Save();
-  /// Posts the given rows with a date. False when the user or a rule refused; that was told.
+  /// How many of the rows hold an amount that posting would write.
+  [[nodiscard]] int EntriesIn(const std::vector<int>& rows) const;
+  /// Posts the given rows with a date. False when the user or a rule refused; that was told. Raises
+  /// CommandFailure when a payment couldn't be posted.
   [[nodiscard]] bool Post(const std::vector<int>& rows, const DateTime& date);
 
  private:
   PaymentWindow(CommandProgram& program, frmSelectAssessment& window);
   void Choose(const PayeeOptions& payees);
+  [[nodiscard]] const std::string& PaymentText(int row) const;
 
   CommandProgram& program_;
   frmSelectAssessment& window_;
   std::map<std::int32_t, int> rowsById_;
+  std::size_t paymentPlace_ = 0;
 };
 
 /// The slot of "A" to "F", small letters too. Raises CommandFailure for anything else.

@@ -38,7 +38,11 @@ class CommandLine {
       return app_.exit(error) == 0 ? 0 : kWrongUsage;
     }
     try {
-      return command_();
+      const int status = command_();
+      if (!std::cout.flush()) {
+        throw CommandFailure("The results can't be written to standard output.");
+      }
+      return status;
     } catch (const CommandFailure& failure) {
       std::cerr << "lorvane-cli: " << failure.what() << '\n';
     } catch (const RuntimeError& error) {

@@ -47,14 +47,15 @@ bool ReadBlocks(std::ifstream& file, Take take) {
   return !file.bad();
 }
 
-// A new file that is removed again unless it was finished.
+// A new file that is removed again unless it was finished. Errors name the file that was asked for.
 class NewFile {
  public:
-  explicit NewFile(std::string path)
+  NewFile(std::string path, std::string askedFor)
       : path_(std::move(path)),
+        askedFor_(std::move(askedFor)),
         handle_(open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)) {
     if (handle_ < 0) {
-      Fail(errno, path_);
+      Fail(errno, askedFor_);
     }
   }
   NewFile(const NewFile&) = delete;
@@ -70,7 +71,7 @@ class NewFile {
     while (!content.empty()) {
       const ssize_t written = write(handle_, content.data(), content.size());
       if (written < 0 && errno != EINTR) {
-        Fail(errno, path_);
+        Fail(errno, askedFor_);
       }
       content.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
     }
@@ -80,12 +81,13 @@ class NewFile {
     if (fsync(handle_) != 0 || close(std::exchange(handle_, -1)) != 0) {
       const int code = errno;
       unlink(path_.c_str());
-      Fail(code, path_);
+      Fail(code, askedFor_);
     }
   }
 
  private:
   std::string path_;
+  std::string askedFor_;
   int handle_;
 };
 
@@ -114,7 +116,7 @@ void DiskFiles::Write(const std::string& path, std::string_view content) {
   const std::string temporary = path + ".new" + std::to_string(getpid());
   // What a program of the same number may have left behind in a crash.
   unlink(temporary.c_str());
-  NewFile file(temporary);
+  NewFile file(temporary, path);
   file.Write(content);
   file.Finish();
   if (rename(temporary.c_str(), path.c_str()) != 0) {
@@ -130,7 +132,7 @@ void DiskFiles::Copy(const std::string& from, const std::string& to) {
   if (!source) {
     Fail(errno, from);
   }
-  NewFile target(to);
+  NewFile target(to, to);
   if (!ReadBlocks(source, [&](std::string_view block) { target.Write(block); })) {
     Fail(EIO, from);
   }

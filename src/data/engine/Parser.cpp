@@ -24,8 +24,11 @@ class StatementParser {
       FailStatement("it is empty.");
     }
     ParseBody();
-    tokens_.Accept(';');
+    const bool ended = tokens_.Accept(';');
     if (tokens_.Current().kind != TokenKind::kEnd) {
+      if (ended) {
+        FailStatement("more follows its semicolon, and one statement is run at a time.");
+      }
       tokens_.FailHere();
     }
     return std::move(result_);

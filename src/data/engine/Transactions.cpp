@@ -1,5 +1,7 @@
 #include "data/engine/Transactions.h"
 
+#include <utility>
+
 namespace lorvane::sql {
 namespace {
 
@@ -23,6 +25,9 @@ void Transactions::End() {
   if (depth_ == 0 || --depth_ > 0) {
     return;
   }
+  if (undoing_) {
+    throw *std::exchange(undoing_, std::nullopt);
+  }
   Commit();
 }
 
@@ -40,15 +45,19 @@ void Transactions::Commit() {
   }
 }
 
-void Transactions::PrepareWrite() {
-  if (InBatch() && !database_->InTransaction()) {
-    RunPrepared(*database_, "BEGIN IMMEDIATE");
+void Transactions::PrepareWrite() const {
+  if (undoing_) {
+    throw *undoing_;
   }
 }
 
-RuntimeError Transactions::Explain(const RuntimeError& error) const {
-  const bool undone = InBatch() && !database_->InTransaction();
-  return undone ? RuntimeError(error.Number(), error.Description() + kUndone) : error;
+RuntimeError Transactions::Explain(const RuntimeError& error) {
+  const bool undone = InBatch() && !undoing_ && !database_->InTransaction();
+  if (!undone) {
+    return error;
+  }
+  undoing_ = RuntimeError(error.Number(), error.Description() + kUndone);
+  return *undoing_;
 }
 
 void Transactions::Finish() noexcept {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "basic/RuntimeError.h"
 #include "data/engine/Database.h"
 
@@ -7,8 +9,9 @@ namespace lorvane::sql {
 
 /// The batches of a connection: from the outermost begin to its end there is one transaction.
 ///
-/// A disk that fills up makes the library undo a transaction by itself. The batch then goes on: its
-/// next write begins another transaction.
+/// A disk that fills up makes the library undo a transaction by itself. What the batch would write
+/// after that rests on what was undone, so every further write fails with the same error, and so
+/// does its end.
 class Transactions {
  public:
   explicit Transactions(Database& database) : database_(&database) {}
@@ -17,10 +20,10 @@ class Transactions {
   void End();
   [[nodiscard]] bool InBatch() const { return depth_ > 0; }
 
-  /// To be called before each write.
-  void PrepareWrite();
+  /// To be called before each write. Raises the error that undid the batch, if one did.
+  void PrepareWrite() const;
   /// The error of a failed write, with a word on what it undid.
-  [[nodiscard]] RuntimeError Explain(const RuntimeError& error) const;
+  [[nodiscard]] RuntimeError Explain(const RuntimeError& error);
   /// Commits an open batch at the end of the connection.
   void Finish() noexcept;
 
@@ -29,6 +32,8 @@ class Transactions {
 
   Database* database_;
   int depth_ = 0;
+  /// The error that made the library undo the open batch.
+  std::optional<RuntimeError> undoing_;
 };
 
 /// Undoes what was written from here on, unless it is kept. Does nothing outside a transaction.
