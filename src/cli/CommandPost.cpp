@@ -27,6 +27,12 @@ std::vector<int> RowsOf(const PaymentWindow& window, const PostOptions& post) {
   return rows;
 }
 
+std::string ReasonIn(const std::vector<EngineError>& errors) {
+  return errors.empty() ? std::string()
+                        : " The reason: error " + ErrorNumberText(errors.front().number) + ": " +
+                              errors.front().description;
+}
+
 }  // namespace
 
 int RunPost(const CommandOptions& options, const PostOptions& post) {
@@ -58,9 +64,10 @@ int RunPost(const CommandOptions& options, const PostOptions& post) {
   if (after - before < entries) {
     throw CommandFailure("Only " + std::to_string(after - before) + " of " +
                          std::to_string(entries) +
-                         " payments could be written; the others are still saved as entries. "
-                         "'check' may tell why.");
+                         " payments could be written; the others are still saved as entries." +
+                         ReasonIn(program.Connection().Errors()));
   }
+  program.RaiseEngineError();
   std::cout << "Posted " << after - before << " payments of " << ShortDate(date->Day()) << ".\n";
   return 0;
 }

@@ -33,8 +33,7 @@ class PaymentWindow {
   void Save();
   /// How many of the rows hold an amount that posting would write.
   [[nodiscard]] int EntriesIn(const std::vector<int>& rows) const;
-  /// Posts the given rows with a date. False when the user or a rule refused; that was told. Raises
-  /// CommandFailure when a payment couldn't be posted.
+  /// Posts the given rows with a date. False when the user or a rule refused; that was told.
   [[nodiscard]] bool Post(const std::vector<int>& rows, const DateTime& date);
 
  private:
