@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include <numeric>
 #include <stdexcept>
 #include <vector>
 
@@ -29,10 +30,8 @@ double Ours(const CompanyFiles& files) {
   frmSelectAssessment window(company.Context());
   company.Services().Show(window);
   window.lstIndustries.UserSelect(0);
-  std::vector<int> rows;
-  for (int row = 0; row < window.lvwPayments.Count(); ++row) {
-    rows.push_back(row);
-  }
+  std::vector<int> rows(window.lvwPayments.Rows().size());
+  std::iota(rows.begin(), rows.end(), 0);
   window.lvwPayments.UserSelectRows(rows);
   const double seconds = SecondsOf([&] { window.menus.cmdTbrPost.UserClick(); });
   const ResultTable posted =

@@ -65,7 +65,7 @@ double Bare(const CompanyFiles& files) {
             names = fmt::format("LastName = \"{}\", FirstName = \"{}\", Initial = \"{}\"",
                                 text(row, 1), text(row, 2), text(row, 3));
           });
-      file.Run("UPDATE tblEmpRemittance SET " + names + " WHERE Id = " + id);
+      file.Run(fmt::format("UPDATE tblEmpRemittance SET {} WHERE Id = {}", names, id));
     }
     file.Run("COMMIT");
   });

@@ -20,8 +20,20 @@ DateTime DateOfOption(const std::string& text) {
   return date->Day();
 }
 
-std::string ExtensionOf(const std::string& path) {
-  return ToLower(std::filesystem::path(path).extension().string());
+// Raises CommandFailure for a file that the list can't be written to. The result is its ending.
+std::string CheckOutput(const std::string& path) {
+  if (path.empty()) {
+    return {};
+  }
+  std::string extension = ToLower(std::filesystem::path(path).extension().string());
+  if (extension != ".txt" && extension != ".csv") {
+    throw CommandFailure("'" + path + "' should end in .txt or .csv.");
+  }
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(std::filesystem::absolute(path).parent_path(), ignored)) {
+    throw CommandFailure("'" + path + "' can't be written: there is no such folder.");
+  }
+  return extension;
 }
 
 struct Period {
@@ -64,10 +76,7 @@ void AddHeadings(CommandProgram& program, RemittanceFill& fill, const Remittance
 }  // namespace
 
 int RunRemittance(const CommandOptions& options, const RemittanceOptions& remittance) {
-  const std::string extension = ExtensionOf(remittance.output);
-  if (!remittance.output.empty() && extension != ".txt" && extension != ".csv") {
-    throw CommandFailure("'" + remittance.output + "' should end in .txt or .csv.");
-  }
+  const std::string extension = CheckOutput(remittance.output);
   const Period period{DateOfOption(remittance.from), DateOfOption(remittance.to)};
   const int industryItem = remittance.payees.industry.empty()
                                ? RemittanceFill::kAllIndustries
@@ -76,6 +85,7 @@ int RunRemittance(const CommandOptions& options, const RemittanceOptions& remitt
   program.OpenCompany();
   RemittanceFill fill(program.Context());
   if (!Fill(fill, remittance, period, industryItem)) {
+    program.RaiseEngineError();
     program.Services().MsgBox(
         "There is nothing to view for the selected date range.\r\n\r\n"
         "Please select a new starting and ending date.",

@@ -79,6 +79,7 @@ void PaymentWindow::ReadBack(int row) {
 
 void PaymentWindow::Save() {
   std::vector<std::string> payments;
+  payments.reserve(window_.lvwPayments.Rows().size());
   for (int row = 0; row < window_.lvwPayments.Count(); ++row) {
     payments.push_back(PaymentText(row));
   }

@@ -18,6 +18,7 @@ struct FaultyVfs::State {
   sqlite3_vfs* disk = nullptr;
   std::int64_t bytesLeft = kNoLimit;
   bool failSync = false;
+  bool failReads = false;
   bool protect = false;
 };
 
@@ -48,6 +49,12 @@ int Write(sqlite3_file* file, const void* bytes, int count, sqlite3_int64 offset
   return Pass<&sqlite3_io_methods::xWrite>(file, bytes, count, offset);
 }
 
+int Read(sqlite3_file* file, void* bytes, int count, sqlite3_int64 offset) {
+  return Faulty(file).state->failReads
+             ? SQLITE_IOERR_READ
+             : Pass<&sqlite3_io_methods::xRead>(file, bytes, count, offset);
+}
+
 int Sync(sqlite3_file* file, int flags) {
   return Faulty(file).state->failSync ? SQLITE_IOERR_FSYNC
                                       : Pass<&sqlite3_io_methods::xSync>(file, flags);
@@ -62,7 +69,7 @@ constexpr sqlite3_io_methods MakeMethods() {
   sqlite3_io_methods methods{};
   methods.iVersion = 2;
   methods.xClose = Pass<&sqlite3_io_methods::xClose>;
-  methods.xRead = Pass<&sqlite3_io_methods::xRead, void*, int, sqlite3_int64>;
+  methods.xRead = Read;
   methods.xWrite = Write;
   methods.xTruncate = Pass<&sqlite3_io_methods::xTruncate, sqlite3_int64>;
   methods.xSync = Sync;
@@ -120,11 +127,14 @@ void FaultyVfs::FillAfter(std::int64_t bytes) { state_->bytesLeft = bytes; }
 
 void FaultyVfs::FailSync(bool fail) { state_->failSync = fail; }
 
+void FaultyVfs::FailReads(bool fail) { state_->failReads = fail; }
+
 void FaultyVfs::ProtectFiles(bool protect) { state_->protect = protect; }
 
 void FaultyVfs::Heal() {
   state_->bytesLeft = kNoLimit;
   state_->failSync = false;
+  state_->failReads = false;
   state_->protect = false;
 }
 

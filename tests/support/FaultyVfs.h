@@ -19,6 +19,8 @@ class FaultyVfs {
   void FillAfter(std::int64_t bytes);
   /// What is written is there, but can't be made sure of.
   void FailSync(bool fail);
+  /// Nothing can be read.
+  void FailReads(bool fail);
   /// Files opened from now on can't be written.
   void ProtectFiles(bool protect);
   /// Everything works again.

@@ -46,8 +46,9 @@ auto FileConnection::Recorded(Operation operation) {
   try {
     return operation();
   } catch (const RuntimeError& error) {
-    errors_ = {{error.Number(), error.Description()}};
-    throw;
+    const RuntimeError explained = transactions_.Explain(error);
+    errors_ = {{explained.Number(), explained.Description()}};
+    throw explained;
   }
 }
 
@@ -97,19 +98,15 @@ Rendered FileConnection::RenderWrite(Statement& statement) {
 }
 
 std::int64_t FileConnection::Write(const Rendered& rendered) {
-  try {
-    transactions_.PrepareWrite();
-    Savepoint savepoint(*database_, rendered.mayFailMidway);
-    {
-      StatementRun run(*database_, rendered);
-      run.Step();
-    }
-    const int changes = sqlite3_changes(database_->Handle());
-    savepoint.Keep();
-    return changes;
-  } catch (const RuntimeError& error) {
-    throw transactions_.Explain(error);
+  transactions_.PrepareWrite();
+  Savepoint savepoint(*database_, rendered.mayFailMidway);
+  {
+    StatementRun run(*database_, rendered);
+    run.Step();
   }
+  const int changes = sqlite3_changes(database_->Handle());
+  savepoint.Keep();
+  return changes;
 }
 
 SelectStatement& FileConnection::SelectIn(Statement& statement) {

@@ -9,9 +9,9 @@ namespace lorvane::sql {
 
 /// The batches of a connection: from the outermost begin to its end there is one transaction.
 ///
-/// A disk that fills up makes the library undo a transaction by itself. What the batch would write
-/// after that rests on what was undone, so every further write fails with the same error, and so
-/// does its end.
+/// A disk that fills up or can't be read makes the library undo a transaction by itself. What the
+/// batch would write after that rests on what was undone, so every further write fails with the
+/// same error, and so does its end.
 class Transactions {
  public:
   explicit Transactions(Database& database) : database_(&database) {}
@@ -22,7 +22,7 @@ class Transactions {
 
   /// To be called before each write. Raises the error that undid the batch, if one did.
   void PrepareWrite() const;
-  /// The error of a failed write, with a word on what it undid.
+  /// The error of a failed write or read, with a word on what it undid.
   [[nodiscard]] RuntimeError Explain(const RuntimeError& error);
   /// Commits an open batch at the end of the connection.
   void Finish() noexcept;

@@ -141,6 +141,21 @@ TEST_F(Batch, AFullDiskInsideALargeBatchUndoesAllOfIt) {
   EXPECT_EQ(IdsAfterReopening(), "1;201");
 }
 
+TEST_F(Batch, ARowThatCantBeReadUndoesTheBatchToo) {
+  Run("INSERT INTO tblTableIDs (TableName, NextId) VALUES ('tblEmployees', 1)");
+  // Nothing of the second table is in memory.
+  EXPECT_EQ(IdsAfterReopening(), "1");
+  connection_->BeginBatch();
+  EXPECT_EQ(Insert(2), "1");
+  disk_.FailReads(true);
+  EXPECT_EQ(Rows("SELECT NextId FROM tblTableIDs"), "80004005");
+  disk_.Heal();
+  EXPECT_EQ(Insert(3), "80004005");
+  EXPECT_NE(connection_->Errors().at(0).description.find("was undone"), std::string::npos);
+  EXPECT_EQ(End(), "80004005");
+  EXPECT_EQ(IdsAfterReopening(), "1");
+}
+
 TEST_F(Batch, ACommitThatCantBeMadeSureOfIsUndone) {
   disk_.FailSync(true);
   EXPECT_EQ(Insert(2), "80004005");
