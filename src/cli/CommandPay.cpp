@@ -1,7 +1,5 @@
 #include <algorithm>
 #include <iostream>
-#include <map>
-#include <optional>
 #include <set>
 
 #include "basic/Money.h"
@@ -98,15 +96,18 @@ std::vector<Payment> ReadPayments(const std::string& path) {
   return payments;
 }
 
-void CheckIds(const std::vector<Payment>& payments, const PaymentWindow& window,
-              const PayeeOptions& payees) {
+// Every payment's row, or none: nothing is typed before all ids are known.
+std::vector<int> RowsOf(const std::vector<Payment>& payments, const PaymentWindow& window) {
+  std::vector<int> rows;
+  rows.reserve(payments.size());
   for (const Payment& payment : payments) {
-    if (!window.RowsById().contains(payment.id)) {
-      throw CommandFailure(payment.place + ": there is no " +
-                           (payees.employees ? "active employee " : "sub-contractor ") +
-                           std::to_string(payment.id) + " in industry " + payees.industry + ".");
+    try {
+      rows.push_back(window.RowOf(payment.id));
+    } catch (const CommandFailure& failure) {
+      throw CommandFailure(payment.place + ": " + failure.what());
     }
   }
+  return rows;
 }
 
 }  // namespace
@@ -117,21 +118,15 @@ int RunPay(const CommandOptions& options, const PayOptions& pay) {
   program.OpenCompanyForPayments();
   Currency total;
   PaymentWindow::Open(program, pay.payees, [&](PaymentWindow& window) {
-    CheckIds(payments, window, pay.payees);
-    // The save reads an amount in every row, and a sub-contractor's row shows an expiry in that
-    // place until it is read back.
-    if (!pay.payees.employees) {
-      for (const auto& [id, row] : window.RowsById()) {
-        window.ReadBack(row);
-      }
-    }
-    for (const Payment& payment : payments) {
+    const std::vector<int> rows = RowsOf(payments, window);
+    window.ShowSavedAmounts();
+    for (std::size_t i = 0; i < payments.size(); ++i) {
       ReadCell(
           [&] {
-            total += Currency::FromDouble(payment.amount);
-            window.EnterAmount(window.RowsById().at(payment.id), payment.amount);
+            total += Currency::FromDouble(payments[i].amount);
+            window.EnterAmount(rows[i], payments[i].amount);
           },
-          payment.place + ": the amount is too large.");
+          payments[i].place + ": the amount is too large.");
     }
     window.Save();
   });

@@ -15,14 +15,7 @@ std::vector<int> RowsOf(const PaymentWindow& window, const PostOptions& post) {
     }
   }
   for (const std::int32_t id : post.ids) {
-    const auto found = window.RowsById().find(id);
-    if (found == window.RowsById().end()) {
-      throw CommandFailure(
-          "There is no " +
-          std::string(post.payees.employees ? "active employee " : "sub-contractor ") +
-          std::to_string(id) + " in industry " + post.payees.industry + ".");
-    }
-    rows.push_back(found->second);
+    rows.push_back(window.RowOf(id));
   }
   return rows;
 }
@@ -49,11 +42,7 @@ int RunPost(const CommandOptions& options, const PostOptions& post) {
   int entries = 0;
   PaymentWindow::Open(program, post.payees, [&](PaymentWindow& window) {
     const std::vector<int> rows = RowsOf(window, post);
-    if (!post.payees.employees) {
-      for (const auto& [id, row] : window.RowsById()) {
-        window.ReadBack(row);
-      }
-    }
+    window.ShowSavedAmounts();
     entries = window.EntriesIn(rows);
     posted = window.Post(rows, date->Day());
   });

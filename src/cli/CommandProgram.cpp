@@ -1,7 +1,6 @@
 #include "cli/CommandProgram.h"
 
 #include <filesystem>
-#include <string_view>
 #include <vector>
 
 #include "basic/RuntimeError.h"
@@ -28,14 +27,7 @@ void CommandProgram::OpenCompany() {
   DataConnection& connection = *session_->gDataConn;
   connection.DataSource = file_;
   if (!connection.DataOpen()) {
-    std::string reason;
-    for (const std::string& line : Split(Replace(connection.ErrorHandler(), kCrLf, "\n"), '\n')) {
-      constexpr std::string_view description = "Description: ";
-      if (line.starts_with(description)) {
-        reason = line.substr(description.size());
-      }
-    }
-    throw CommandFailure(reason);
+    throw CommandFailure(connection.Errors().front().description);
   }
   session_->gConfigFile = GetPathPart(file_) + "LorvaneConfig.ini";
 }

@@ -1,6 +1,7 @@
 #include "cli/PaymentWindow.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "basic/Number.h"
 #include "basic/Text.h"
@@ -25,23 +26,24 @@ IndustrySlot SlotOfOption(const std::string& industry) {
   throw CommandFailure("'" + industry + "' is no industry: give one of A to F.");
 }
 
-PaymentWindow::PaymentWindow(CommandProgram& program, frmSelectAssessment& window)
-    : program_(program), window_(window) {}
+PaymentWindow::PaymentWindow(CommandProgram& program, frmSelectAssessment& window,
+                             PayeeOptions payees)
+    : program_(program), window_(window), payees_(std::move(payees)) {}
 
 void PaymentWindow::Open(CommandProgram& program, const PayeeOptions& payees,
                          const std::function<void(PaymentWindow&)>& work) {
   program.Services().OnModal("frmSelectAssessment", [&](Screen& screen) {
-    PaymentWindow window(program, dynamic_cast<frmSelectAssessment&>(screen));
-    window.Choose(payees);
+    PaymentWindow window(program, dynamic_cast<frmSelectAssessment&>(screen), payees);
+    window.Choose();
     work(window);
     window.window_.RefreshList();  // nothing is left unsaved, so that closing asks nothing
   });
   program.Services().OpenScreen("frmSelectAssessment", {});
 }
 
-void PaymentWindow::Choose(const PayeeOptions& payees) {
-  const IndustrySlot slot = SlotOfOption(payees.industry);
-  OptionButton& option = payees.employees ? window_.optEmployee : window_.optSubContractor;
+void PaymentWindow::Choose() {
+  const IndustrySlot slot = SlotOfOption(payees_.industry);
+  OptionButton& option = payees_.employees ? window_.optEmployee : window_.optSubContractor;
   option.UserClick();
   const int index = ListIndexByData(window_.lstIndustries, NumberOf(slot));
   program_.RaiseEngineError();
@@ -51,10 +53,21 @@ void PaymentWindow::Choose(const PayeeOptions& payees) {
   }
   window_.lstIndustries.UserSelect(index);
   program_.RaiseEngineError();
-  paymentPlace_ = payees.employees ? EmployeeList::kPaymentPlace : SubContractorList::kPaymentPlace;
+  paymentPlace_ =
+      payees_.employees ? EmployeeList::kPaymentPlace : SubContractorList::kPaymentPlace;
   for (int row = 0; row < window_.lvwPayments.Count(); ++row) {
     rowsById_[ToLong(window_.lvwPayments.Cell(row, 0))] = row;
   }
+}
+
+int PaymentWindow::RowOf(std::int32_t id) const {
+  const auto found = rowsById_.find(id);
+  if (found == rowsById_.end()) {
+    throw CommandFailure(std::string("there is no ") +
+                         (payees_.employees ? "active employee " : "sub-contractor ") +
+                         std::to_string(id) + " in industry " + payees_.industry + ".");
+  }
+  return found->second;
 }
 
 void PaymentWindow::EnterAmount(int row, double amount) {
@@ -69,12 +82,17 @@ void PaymentWindow::EnterAmount(int row, double amount) {
   window_.lvwPayments.UserDoubleClick(row);
 }
 
-void PaymentWindow::ReadBack(int row) {
+void PaymentWindow::ShowSavedAmounts() {
+  if (payees_.employees) {
+    return;
+  }
   program_.Services().OnModal("frmPayment", [](Screen& screen) {
     Press(screen, dynamic_cast<frmPayment&>(screen).txtAmount, key_code::kEscape);
   });
-  window_.lvwPayments.UserDoubleClick(row);
-  window_.menus.cmdTbrUndo.UserClick();
+  for (int row = 0; row < window_.lvwPayments.Count(); ++row) {
+    window_.lvwPayments.UserDoubleClick(row);
+    window_.menus.cmdTbrUndo.UserClick();
+  }
 }
 
 void PaymentWindow::Save() {
@@ -99,8 +117,7 @@ const std::string& PaymentWindow::PaymentText(int row) const {
 
 int PaymentWindow::EntriesIn(const std::vector<int>& rows) const {
   // An employee's assessable amount is what is settled and posted.
-  const std::size_t place =
-      window_.optEmployee.Chosen() ? PayeeList::kAssessablePlace : SubContractorList::kPaymentPlace;
+  const std::size_t place = payees_.employees ? PayeeList::kAssessablePlace : paymentPlace_;
   return static_cast<int>(std::count_if(rows.begin(), rows.end(), [&](int row) {
     return ToDouble(window_.lvwPayments.Cell(row, place)) != 0;
   }));

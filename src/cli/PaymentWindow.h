@@ -24,11 +24,13 @@ class PaymentWindow {
 
   /// Row of each listed payee by id.
   [[nodiscard]] const std::map<std::int32_t, int>& RowsById() const { return rowsById_; }
+  /// The row of one payee. Raises CommandFailure when the list doesn't have it.
+  [[nodiscard]] int RowOf(std::int32_t id) const;
   /// Types an amount into a row, as its shortest text.
   void EnterAmount(int row, double amount);
-  /// Opens a row, leaves it, and takes the last entry back, so that the row shows its saved amounts
-  /// in every column.
-  void ReadBack(int row);
+  /// Makes every row show its saved amounts in every place: save and post read an amount where a
+  /// sub-contractor's row shows an expiry until it is opened, left and taken back.
+  void ShowSavedAmounts();
   /// Saves every row. Raises CommandFailure when a row's payment isn't on file afterwards.
   void Save();
   /// How many of the rows hold an amount that posting would write.
@@ -37,12 +39,13 @@ class PaymentWindow {
   [[nodiscard]] bool Post(const std::vector<int>& rows, const DateTime& date);
 
  private:
-  PaymentWindow(CommandProgram& program, frmSelectAssessment& window);
-  void Choose(const PayeeOptions& payees);
+  PaymentWindow(CommandProgram& program, frmSelectAssessment& window, PayeeOptions payees);
+  void Choose();
   [[nodiscard]] const std::string& PaymentText(int row) const;
 
   CommandProgram& program_;
   frmSelectAssessment& window_;
+  PayeeOptions payees_;
   std::map<std::int32_t, int> rowsById_;
   std::size_t paymentPlace_ = 0;
 };

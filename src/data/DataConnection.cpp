@@ -109,12 +109,13 @@ EngineConnection& DataConnection::Connection() const {
   return *connection_;
 }
 
+const std::vector<EngineError>& DataConnection::Errors() const {
+  return connection_ != nullptr ? connection_->Errors() : openErrors_;
+}
+
 const std::string& DataConnection::ErrorHandler(const EngineConnection* connection) {
-  if (connection == nullptr) {
-    connection = connection_.get();
-  }
   errorMsg_.clear();
-  for (const EngineError& error : connection != nullptr ? connection->Errors() : openErrors_) {
+  for (const EngineError& error : connection != nullptr ? connection->Errors() : Errors()) {
     errorMsg_ += "Error #: " + std::to_string(error.number) + kCrLf +
                  "Description: " + error.description + kCrLf;
   }

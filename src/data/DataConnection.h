@@ -68,6 +68,9 @@ class DataConnection {
   /// The live connection; raises 3704 while closed.
   [[nodiscard]] EngineConnection& Connection() const;
 
+  /// The errors of the last operation that failed on the live connection, or of the opening that
+  /// failed.
+  [[nodiscard]] const std::vector<EngineError>& Errors() const;
   /// The error list of the given connection, or of this object's own when it is missing, as a text:
   /// "Error #: " number and "Description: " text, a line each. Empty when there was no error.
   const std::string& ErrorHandler(const EngineConnection* connection = nullptr);
