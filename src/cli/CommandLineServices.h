@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "cli/Console.h"
-#include "cli/SystemClock.h"
 #include "screen/ScreenHost.h"
+#include "screen/SystemClock.h"
 
 namespace lorvane {
 
@@ -39,6 +39,8 @@ class CommandLineServices : public ScreenHost {
   ShellResult RunShell(const ShellRequest& request) override;
   [[nodiscard]] bool IsRunning(int /*process*/) const override { return false; }
   void ShowHelp() override;
+  /// There are no windows.
+  void ArrangeWindows(WindowArrangement /*arrangement*/) override {}
 
  protected:
   void RunModal(Screen& screen) override;

@@ -32,12 +32,16 @@ void CommandProgram::OpenCompany() {
   session_->gConfigFile = GetPathPart(file_) + "LorvaneConfig.ini";
 }
 
-void CommandProgram::OpenCompanyForPayments() {
+void CommandProgram::OpenCompanyToChange() {
   OpenCompany();
   if (!session_->Ini().KeyGet("DataBase", "YE", "").empty()) {
     throw CommandFailure("'" + file_ +
-                         "' is the archive of a closed year: nothing can be paid in it.");
+                         "' is the archive of a closed year: nothing can be changed in it.");
   }
+}
+
+void CommandProgram::OpenCompanyForPayments() {
+  OpenCompanyToChange();
   const std::vector<std::string> findings = CheckAssessmentSettings(*session_);
   if (!findings.empty()) {
     throw CommandFailure(findings.front());

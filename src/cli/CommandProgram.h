@@ -33,8 +33,10 @@ class CommandProgram {
 
   /// Opens the company as Open Company does. Raises CommandFailure with the reason when it can't.
   void OpenCompany();
-  /// As OpenCompany, for commands that change the payroll: refuses a year-end archive, and a
-  /// configuration file whose lines the payment window would misread.
+  /// As OpenCompany, for commands that change the payroll: refuses a year-end archive.
+  void OpenCompanyToChange();
+  /// As OpenCompanyToChange; refuses a configuration file, too, whose lines the payment window
+  /// would misread.
   void OpenCompanyForPayments();
 
   [[nodiscard]] const std::string& File() const { return file_; }

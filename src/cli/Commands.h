@@ -48,5 +48,11 @@ int RunSql(const CommandOptions& options, const std::string& statement);
 int RunPay(const CommandOptions& options, const PayOptions& pay);
 int RunPost(const CommandOptions& options, const PostOptions& post);
 int RunRemittance(const CommandOptions& options, const RemittanceOptions& remittance);
+/// An empty year stands for the one that the procedure proposes.
+int RunCloseYear(const CommandOptions& options, const std::string& givenYear);
+int RunCompact(const CommandOptions& options);
+int RunResetMaximum(const CommandOptions& options, const std::string& amount);
+/// The year is the one that is closed: the rates are the next year's.
+int RunRollRates(const CommandOptions& options, const std::string& year);
 
 }  // namespace lorvane

@@ -7,9 +7,9 @@
 #include "basic/Text.h"
 #include "cli/Console.h"
 #include "cli/ScriptRunner.h"
-#include "cli/SystemClock.h"
 #include "data/Files.h"
 #include "data/engine/Engine.h"
+#include "screen/SystemClock.h"
 #include "shell/modLorvane.h"
 
 namespace lorvane {

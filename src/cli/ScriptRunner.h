@@ -12,7 +12,7 @@
 #include "cli/ScriptErrors.h"
 #include "cli/ScriptParser.h"
 #include "cli/ScriptProgram.h"
-#include "cli/SystemClock.h"
+#include "screen/SystemClock.h"
 
 namespace lorvane {
 

@@ -33,4 +33,11 @@ bool ScriptServices::OpenScreen(std::string_view name, const ScreenArguments& ar
   return true;
 }
 
+bool ScriptServices::OpenModeless(std::string_view name) {
+  if (!CommandLineServices::OpenModeless(name)) {
+    throw ScriptFailure{"there is no screen " + std::string(name)};
+  }
+  return true;
+}
+
 }  // namespace lorvane

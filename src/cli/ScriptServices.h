@@ -24,6 +24,8 @@ class ScriptServices : public CommandLineServices {
   [[nodiscard]] std::string AskForFile(const FileDialog& dialog) override;
   /// Raises ScriptFailure when there is no screen of that name.
   bool OpenScreen(std::string_view name, const ScreenArguments& arguments) override;
+  /// Raises ScriptFailure when there is no screen of that name.
+  bool OpenModeless(std::string_view name) override;
 
  protected:
   void RunModal(Screen& screen) override { modalWork_(screen); }

@@ -28,6 +28,8 @@ class CommandLine {
     AddPay();
     AddPost();
     AddRemittance();
+    AddYearEnd();
+    AddMaintenance();
     AddScript();
   }
 
@@ -130,6 +132,27 @@ class CommandLine {
     command->add_option("-o,--output", remittance_.output, "A file ending in .txt or .csv");
   }
 
+  void AddYearEnd() {
+    CLI::App* close = AddCommand("year-end", "Archive the year and begin the next one",
+                                 [this] { return RunCloseYear(options_, year_); });
+    AddFile(close);
+    close->add_option("--year", year_, "The year to close; that of the last entry when not given");
+    CLI::App* roll = AddCommand("roll-rates", "Take the next year's published rates",
+                                [this] { return RunRollRates(options_, year_); });
+    AddFile(roll);
+    roll->add_option("--year", year_, "The year being closed: the rates are the next year's")
+        ->required();
+  }
+
+  void AddMaintenance() {
+    AddFile(AddCommand("compact", "Take the gaps out of the data file",
+                       [this] { return RunCompact(options_); }));
+    CLI::App* reset = AddCommand("reset-maximum", "Set every employee's maximum contribution",
+                                 [this] { return RunResetMaximum(options_, amount_); });
+    AddFile(reset);
+    reset->add_option("AMOUNT", amount_, "The new maximum, in dollars")->required();
+  }
+
   void AddScript() {
     CLI::App* command = AddCommand("script", "Run a screen script", [this] { return Script(); });
     command->add_option("SCRIPT", script_.path, "The script's file")->required();
@@ -164,6 +187,8 @@ class CommandLine {
   PayOptions pay_;
   PostOptions post_;
   RemittanceOptions remittance_;
+  std::string year_;
+  std::string amount_;
   ScriptOptions script_;
   std::vector<std::string> variables_;
   std::string now_;

@@ -1,9 +1,11 @@
 #include "data/Files.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -47,50 +49,6 @@ bool ReadBlocks(std::ifstream& file, Take take) {
   return !file.bad();
 }
 
-// A new file that is removed again unless it was finished. Errors name the file that was asked for.
-class NewFile {
- public:
-  NewFile(std::string path, std::string askedFor)
-      : path_(std::move(path)),
-        askedFor_(std::move(askedFor)),
-        handle_(open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)) {
-    if (handle_ < 0) {
-      Fail(errno, askedFor_);
-    }
-  }
-  NewFile(const NewFile&) = delete;
-  NewFile& operator=(const NewFile&) = delete;
-  ~NewFile() {
-    if (handle_ >= 0) {
-      close(handle_);
-      unlink(path_.c_str());
-    }
-  }
-
-  void Write(std::string_view content) {
-    while (!content.empty()) {
-      const ssize_t written = write(handle_, content.data(), content.size());
-      if (written < 0 && errno != EINTR) {
-        Fail(errno, askedFor_);
-      }
-      content.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
-    }
-  }
-  // On disk from here on.
-  void Finish() {
-    if (fsync(handle_) != 0 || close(std::exchange(handle_, -1)) != 0) {
-      const int code = errno;
-      unlink(path_.c_str());
-      Fail(code, askedFor_);
-    }
-  }
-
- private:
-  std::string path_;
-  std::string askedFor_;
-  int handle_;
-};
-
 // Makes a rename or a new name durable. A file system that can't do so is no reason to fail.
 void SyncFolderOf(const std::string& path) {
   const std::string folder = GetPathPart(path);
@@ -100,6 +58,69 @@ void SyncFolderOf(const std::string& path) {
     close(handle);
   }
 }
+
+// Where nothing of that name is; not every file system can do both in one step.
+int RenameToNew(const std::string& from, const std::string& to) {
+  const int done = renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
+  if (done == 0 || (errno != EINVAL && errno != ENOSYS)) {
+    return done;
+  }
+  if (access(to.c_str(), F_OK) == 0) {
+    errno = EEXIST;
+    return -1;
+  }
+  return rename(from.c_str(), to.c_str());
+}
+
+// A file under a temporary name beside its place, removed again unless it gets there. Errors name
+// the place.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const std::string& place)
+      : place_(place), path_(place + ".new" + std::to_string(getpid())) {
+    // What a program of the same number may have left behind in a crash.
+    unlink(path_.c_str());
+    handle_ = open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (handle_ < 0) {
+      Fail(errno, place_);
+    }
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  ~TemporaryFile() {
+    if (handle_ >= 0) {
+      close(handle_);
+    }
+    if (!placed_) {
+      unlink(path_.c_str());
+    }
+  }
+
+  void Write(std::string_view content) {
+    while (!content.empty()) {
+      const ssize_t written = write(handle_, content.data(), content.size());
+      if (written < 0 && errno != EINTR) {
+        Fail(errno, place_);
+      }
+      content.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
+    }
+  }
+  // Whole and on the disk when it gets there, over what is there or where nothing is.
+  void Place(bool over) {
+    if (fsync(handle_) != 0 || close(std::exchange(handle_, -1)) != 0 ||
+        (over ? rename(path_.c_str(), place_.c_str()) : RenameToNew(path_, place_)) != 0) {
+      Fail(errno, place_);
+    }
+    placed_ = true;
+    SyncFolderOf(place_);
+  }
+
+ private:
+  std::string place_;
+  std::string path_;
+  int handle_ = -1;
+  bool placed_ = false;
+};
 
 }  // namespace
 
@@ -113,36 +134,72 @@ std::optional<std::string> DiskFiles::Read(const std::string& path) {
 }
 
 void DiskFiles::Write(const std::string& path, std::string_view content) {
-  const std::string temporary = path + ".new" + std::to_string(getpid());
-  // What a program of the same number may have left behind in a crash.
-  unlink(temporary.c_str());
-  NewFile file(temporary, path);
+  TemporaryFile file(path);
   file.Write(content);
-  file.Finish();
-  if (rename(temporary.c_str(), path.c_str()) != 0) {
-    const int code = errno;
-    unlink(temporary.c_str());
-    Fail(code, path);
+  file.Place(true);
+}
+
+void DiskFiles::Copy(const std::string& from, const std::string& to) {
+  WriteNew(to, [&](const TakeBytes& take) {
+    std::ifstream source(from, std::ios::binary);
+    if (!source) {
+      Fail(errno, from);
+    }
+    if (!ReadBlocks(source, take)) {
+      Fail(EIO, from);
+    }
+  });
+}
+
+void DiskFiles::WriteNew(const std::string& path,
+                         const std::function<void(const TakeBytes& take)>& source) {
+  if (Exists(path)) {
+    Fail(EEXIST, path);
+  }
+  TemporaryFile file(path);
+  source([&](std::string_view block) { file.Write(block); });
+  file.Place(false);
+}
+
+void DiskFiles::MakeFolder(const std::string& path) {
+  if (mkdir(path.c_str(), 0777) != 0) {
+    Fail(errno, path);
   }
   SyncFolderOf(path);
 }
 
-void DiskFiles::Copy(const std::string& from, const std::string& to) {
-  std::ifstream source(from, std::ios::binary);
-  if (!source) {
+void DiskFiles::Replace(const std::string& from, const std::string& to) {
+  const int handle = open(from.c_str(), O_RDONLY | O_CLOEXEC);
+  if (handle < 0) {
     Fail(errno, from);
   }
-  NewFile target(to, to);
-  if (!ReadBlocks(source, [&](std::string_view block) { target.Write(block); })) {
-    Fail(EIO, from);
+  struct stat replaced {};
+  const bool ready = stat(to.c_str(), &replaced) == 0 &&
+                     fchmod(handle, replaced.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)) == 0 &&
+                     fsync(handle) == 0;
+  const int code = errno;
+  close(handle);
+  if (!ready) {
+    Fail(code, to);
   }
-  target.Finish();
+  if (rename(from.c_str(), to.c_str()) != 0) {
+    Fail(errno, to);
+  }
   SyncFolderOf(to);
 }
 
 bool DiskFiles::Exists(const std::string& path) {
   std::error_code ignored;
   return fs::exists(path, ignored);
+}
+
+std::uintmax_t DiskFiles::Size(const std::string& path) {
+  std::error_code error;
+  const std::uintmax_t size = fs::file_size(path, error);
+  if (error) {
+    Fail(error.value(), path);
+  }
+  return size;
 }
 
 void DiskFiles::Remove(const std::string& path) {

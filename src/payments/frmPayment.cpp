@@ -24,7 +24,7 @@ void frmPayment::AmountKeyPress(int& key) {
   } else if (key == key_code::kEscape) {
     key = key_code::kNone;
     Close();
-  } else if (key != key_code::kTab) {
+  } else {
     key = FilterKeyPressNumeric(key, false);
   }
 }

@@ -26,6 +26,8 @@ void RunStep(ScreenContext context, Step step) {
 frmSelectDate::frmSelectDate(ScreenContext context)
     : Screen(context, "frmSelectDate", "Select Date") {
   calDate.SetTip("Date of the payments");
+  cmdOK.SetButtonRole(Command::Role::kDefault);
+  cmdCancel.SetButtonRole(Command::Role::kCancel);
   cmdOK.OnClick = [this] { TakeDate(); };
   cmdCancel.OnClick = [this] {
     Cancel();

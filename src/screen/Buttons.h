@@ -10,10 +10,20 @@ namespace lorvane {
 /// A button, or a button of a tool bar.
 class Command : public Control {
  public:
+  /// The default button is pressed by Enter, the cancel button by Escape, wherever the focus is,
+  /// when nobody else takes the key.
+  enum class Role { kPlain, kDefault, kCancel };
+
   Command(Screen& screen, std::string name, std::string caption = {}, std::string tip = {});
+
+  [[nodiscard]] Role ButtonRole() const { return role_; }
+  void SetButtonRole(Role role) { role_ = role; }
 
   /// Enter and the space bar press it.
   bool UserKey(int key) override;
+
+ private:
+  Role role_ = Role::kPlain;
 };
 
 /// A text that a user only reads.

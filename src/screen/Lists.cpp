@@ -144,11 +144,15 @@ void ComboBox::SetListIndex(int index) {
 }
 
 void ComboBox::UserSelect(int index) {
-  if (Usable() && index >= 0 && index < Count() && Owner().MoveFocus(*this)) {
-    if (OnDropDown) {
-      OnDropDown();
-    }
+  if (Usable() && index >= 0 && index < Count()) {
+    UserDropDown();
     ListControl::UserSelect(index);
+  }
+}
+
+void ComboBox::UserDropDown() {
+  if (Usable() && Owner().MoveFocus(*this) && OnDropDown) {
+    OnDropDown();
   }
 }
 

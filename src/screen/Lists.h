@@ -76,8 +76,11 @@ class ComboBox : public ListControl {
 
   void Clear() override;
   void SetListIndex(int index) override;
+  /// A user drops the list down and picks an entry. To pick one without that, or after it, is
+  /// ListControl's own UserSelect.
   void UserSelect(int index) override;
-  /// Counts as the user dropping the list down.
+  /// A user drops the list down.
+  void UserDropDown();
   std::function<void()> OnDropDown;
   [[nodiscard]] std::string ShownText() const override { return text_; }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "basic/Text.h"
+#include "screen/Buttons.h"
+#include "screen/TabStrip.h"
 
 namespace lorvane {
 
@@ -68,14 +70,31 @@ void Screen::SetFocus(Control& control) {
   }
 }
 
-void Screen::FocusNext() {
-  const auto stops = [](const Control* control) {
-    return control->TakesFocus() && control->TabStop() && control->Usable();
+// The page of the control that the focus comes from, or else the one in front; 0 when there are
+// none.
+int Screen::PageInFront(const Control* from) const {
+  if (from != nullptr && from->TabPage != 0) {
+    return from->TabPage;
+  }
+  for (const Control* control : controls_) {
+    if (const auto* tabs = dynamic_cast<const TabStrip*>(control)) {
+      return tabs->Tab() + 1;
+    }
+  }
+  return 0;
+}
+
+template <typename Iterator>
+void Screen::FocusAfter(Iterator begin, Iterator end) {
+  const int page = PageInFront(focus_);
+  const auto stops = [page](const Control* control) {
+    return control->TakesFocus() && control->TabStop() && control->Usable() &&
+           (control->TabPage == 0 || control->TabPage == page);
   };
-  const auto from = std::find(controls_.begin(), controls_.end(), focus_);
-  auto next = from == controls_.end() ? from : std::find_if(from + 1, controls_.end(), stops);
-  if (next == controls_.end()) {
-    next = std::find_if(controls_.begin(), from, stops);
+  const Iterator from = std::find(begin, end, focus_);
+  Iterator next = from == end ? from : std::find_if(from + 1, end, stops);
+  if (next == end) {
+    next = std::find_if(begin, from, stops);
     if (next == from) {
       return;
     }
@@ -83,14 +102,42 @@ void Screen::FocusNext() {
   MoveFocus(**next);
 }
 
-void Screen::UserKey(Control& control, int key) {
+void Screen::FocusNext() { FocusAfter(controls_.begin(), controls_.end()); }
+
+void Screen::FocusPrevious() { FocusAfter(controls_.rbegin(), controls_.rend()); }
+
+bool Screen::PressButtonFor(int key) const {
+  if (key != key_code::kEnter && key != key_code::kEscape) {
+    return false;
+  }
+  const Command::Role wanted =
+      key == key_code::kEnter ? Command::Role::kDefault : Command::Role::kCancel;
+  for (Control* control : controls_) {
+    auto* button = dynamic_cast<Command*>(control);
+    if (button != nullptr && button->ButtonRole() == wanted && button->Usable()) {
+      button->UserClick();
+      return true;
+    }
+  }
+  return false;
+}
+
+bool Screen::UserKey(Control& control, int key) {
   if (Minimised) {
-    return;
+    return true;
   }
   KeyPreview(key);
-  if (key != key_code::kNone && !closed_ && !control.UserKey(key) && key == key_code::kTab) {
-    FocusNext();
+  if (key == key_code::kNone || closed_) {
+    return true;
   }
+  if (key == key_code::kTab) {
+    FocusNext();
+    return true;
+  }
+  if (control.UserKey(key)) {
+    return true;
+  }
+  return !closed_ && PressButtonFor(key);
 }
 
 std::optional<std::string> Screen::Property(std::string_view /*name*/) const {

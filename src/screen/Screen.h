@@ -50,11 +50,16 @@ class Screen {
   bool MoveFocus(Control& control);
   /// Sets the focus by code: nobody is asked.
   void SetFocus(Control& control);
-  /// On to the next control where the Tab key stops, and from the last to the first.
+  /// On to the next control where the Tab key stops, and from the last to the first. Controls on a
+  /// tab page that isn't in front are passed over.
   void FocusNext();
+  /// The same, backwards.
+  void FocusPrevious();
 
-  /// A key on the control with the focus, or on a given one: the screen sees it first.
-  void UserKey(Control& control, int key);
+  /// A key on the control with the focus, or on a given one: the screen sees it first. Tab
+  /// moves the focus and is no key of the control's. Enter and Escape that nobody takes press the
+  /// default and the cancel button. True when the key was taken.
+  bool UserKey(Control& control, int key);
 
   /// A public property or state as text, as scripts and callers read it; nothing when there is none
   /// of that name.
@@ -94,6 +99,10 @@ class Screen {
   friend class Control;
   void Register(Control& control);
   void Forget(const Control& control);
+  [[nodiscard]] int PageInFront(const Control* from) const;
+  template <typename Iterator>
+  void FocusAfter(Iterator begin, Iterator end);
+  [[nodiscard]] bool PressButtonFor(int key) const;
 
   std::string name_;
   std::string caption_;

@@ -11,6 +11,14 @@ std::unique_ptr<Screen> ScreenRegistry::Make(std::string_view name, ScreenContex
   return found == factories_.end() ? nullptr : found->second(context);
 }
 
+std::vector<std::string> ScreenRegistry::Names() const {
+  std::vector<std::string> names;
+  for (const auto& [name, factory] : factories_) {
+    names.push_back(name);
+  }
+  return names;
+}
+
 ScreenHost::ScreenHost(Session& session, const ScreenRegistry& registry)
     : session_(&session), registry_(&registry) {}
 
@@ -53,6 +61,41 @@ bool ScreenHost::OpenScreen(std::string_view name, const ScreenArguments& argume
   }
   ShowModal(*screen);
   return true;
+}
+
+bool ScreenHost::OpenModeless(std::string_view name) {
+  std::erase_if(modeless_, [](const auto& screen) { return screen->IsClosed(); });
+  if (Screen* open = FindScreen(name)) {
+    std::rotate(std::find(open_.begin(), open_.end(), open),
+                std::find(open_.begin(), open_.end(), open) + 1, open_.end());
+    open->Activate();
+    ShowModeless(*open);
+    return true;
+  }
+  std::unique_ptr<Screen> screen = registry_->Make(name, Context());
+  if (screen == nullptr) {
+    return false;
+  }
+  Show(*screen);
+  // One that closed itself while it was loaded is gone already.
+  if (screen->IsClosed()) {
+    Forget(*screen);
+    return true;
+  }
+  Screen& shown = *screen;
+  shown.OnClosed = [this, &shown] { EndModeless(shown); };
+  modeless_.push_back(std::move(screen));
+  ShowModeless(shown);
+  return true;
+}
+
+void ScreenHost::EndModeless(Screen& screen) {
+  const bool inFront = ActiveScreen() == &screen;
+  Forget(screen);
+  HideModeless(screen);
+  if (Screen* behind = ActiveScreen(); inFront && behind != nullptr) {
+    behind->Activate();
+  }
 }
 
 Screen* ScreenHost::FindScreen(std::string_view name) const {

@@ -23,6 +23,7 @@ class ScreenRegistry {
   }
   /// A new screen; null when the name isn't registered.
   [[nodiscard]] std::unique_ptr<Screen> Make(std::string_view name, ScreenContext context) const;
+  [[nodiscard]] std::vector<std::string> Names() const;
 
  private:
   std::map<std::string, Factory, std::less<>> factories_;
@@ -38,6 +39,7 @@ class ScreenHost : public ScreenServices {
   void SetPointer(int shape) override { pointer_ = shape; }
   void ShowModal(Screen& screen) override;
   bool OpenScreen(std::string_view name, const ScreenArguments& arguments) override;
+  bool OpenModeless(std::string_view name) override;
   [[nodiscard]] Screen* FindScreen(std::string_view name) const override;
   [[nodiscard]] Screen* ActiveScreen() const override;
 
@@ -48,13 +50,21 @@ class ScreenHost : public ScreenServices {
  protected:
   /// Lets the user work on the screen, which stands in front, until it is closed.
   virtual void RunModal(Screen& screen) = 0;
+  /// Gives the user a window for a screen that isn't modal, or brings the one it has to the front.
+  virtual void ShowModeless(Screen& /*screen*/) {}
+  /// Takes that window away: the screen has been closed. It lives on until another screen is shown
+  /// in this way, since what closed it may be its own.
+  virtual void HideModeless(Screen& /*screen*/) {}
 
  private:
   void Forget(const Screen& screen);
+  void EndModeless(Screen& screen);
 
   Session* session_;
   const ScreenRegistry* registry_;
   std::vector<Screen*> open_;
+  /// Those that aren't modal, closed ones among them.
+  std::vector<std::unique_ptr<Screen>> modeless_;
   int pointer_ = pointer::kDefault;
 };
 

@@ -56,6 +56,9 @@ struct FileDialog {
   std::string start;
 };
 
+/// How the windows inside the main window are arranged; the numbers are the system's own.
+enum class WindowArrangement { kCascade = 0, kHorizontal = 1, kVertical = 2, kIcons = 3 };
+
 /// What to hand to the platform's shell.
 struct ShellRequest {
   std::string verb;
@@ -111,10 +114,14 @@ class ScreenServices {
   /// Shows another subsystem's screen by its name, with its public properties set first. False when
   /// there is no screen of that name.
   virtual bool OpenScreen(std::string_view name, const ScreenArguments& arguments = {}) = 0;
+  /// Shows a screen by its name beside the others and comes back at once; one that is open already
+  /// comes to the front. False when there is no screen of that name.
+  virtual bool OpenModeless(std::string_view name) = 0;
   /// The open screen of that name; null when it isn't open.
   [[nodiscard]] virtual Screen* FindScreen(std::string_view name) const = 0;
   /// The screen in front; null when none is open.
   [[nodiscard]] virtual Screen* ActiveScreen() const = 0;
+  virtual void ArrangeWindows(WindowArrangement arrangement) = 0;
 
   /// Raises 53 when the program or document can't be found.
   virtual ShellResult RunShell(const ShellRequest& request) = 0;

@@ -138,11 +138,7 @@ MenuEntry& MainMenu::Entry(std::string_view name) const {
 }
 
 void MainMenu::Activate(bool yearEndFile) {
-  MenuEntry& edit = Entry("mnuEdit");
-  edit.SetVisible(true);
-  for (MenuEntry* entry : edit.Children()) {
-    entry->SetVisible(true);
-  }
+  Entry("mnuEdit").SetVisible(true);
   for (const Activation& activation : kActivations) {
     if (const std::optional<bool> enabled =
             yearEndFile ? activation.yearEnd : activation.ordinary) {

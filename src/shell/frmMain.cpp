@@ -9,7 +9,9 @@
 #include "screen/ScreenServices.h"
 #include "screen/Session.h"
 #include "screen/modForm.h"
+#include "screen/modHelp.h"
 #include "screen/modStatus.h"
+#include "shell/YearEndCommands.h"
 #include "shell/modLorvane.h"
 
 namespace lorvane {
@@ -17,38 +19,68 @@ namespace {
 
 constexpr int kWhite = 0xFFFFFF;
 
+struct WindowProperty {
+  const char* name = "";
+  const char* value = "";
+};
+
 // Entries that open a window and do nothing else.
 struct WindowEntry {
   const char* entry;
   const char* screen;
-  const char* property;
-  const char* value;
+  std::array<WindowProperty, 2> properties{};
 };
 
 constexpr std::array kWindowEntries{
-    WindowEntry{"mnuFEnterPayments", "frmSelectAssessment", "", ""},
-    WindowEntry{"mnuFEmployerUpdate", "frmOptions", "", ""},
-    WindowEntry{"mnuFAssetLog", "frmAssets", "", ""},
-    WindowEntry{"mnuFSubContractors", "frmSubContractor", "", ""},
-    WindowEntry{"mnuFEmployees", "frmEmployees", "", ""},
-    WindowEntry{"mnuFUserSettings", "frmCompany", "", ""},
-    WindowEntry{"mnuFContractTypes", "frmContracts", "", ""},
-    WindowEntry{"mnuFIEmployees", "frmImport", "Employee", "true"},
-    WindowEntry{"mnuFISExcel", "frmImport", "Employee", "false"},
-    WindowEntry{"mnuFISCompany", "frmImportExisting", "", ""},
-    WindowEntry{"mnuRRAnnualSubCon", "frmRemittanceCalc", "", ""},
-    WindowEntry{"mnuRREmpRemitt", "frmRemittanceCalc", "", ""},
-    WindowEntry{"mnuRRSubConRemitt", "frmRemittanceCalc", "", ""},
-    WindowEntry{"mnuRRQSubCon", "frmRemittanceCalc", "", ""},
-    WindowEntry{"mnuREmployerYEUpdate", "frmRemittanceCalc", "SelectReportOptions", "1"},
-    WindowEntry{"mnuRPrincipalReport", "frmRemittanceCalc", "SelectReportOptions", "3"},
-    WindowEntry{"mnuRAssetLog", "frmRemittanceCalc", "SelectReportOptions", "2"},
-    WindowEntry{"mnuRClearance", "frmReports", "SelectReportType", "3"},
+    WindowEntry{"mnuFEnterPayments", "frmSelectAssessment"},
+    WindowEntry{"mnuFEmployerUpdate", "frmOptions"},
+    WindowEntry{"mnuFAssetLog", "frmAssets"},
+    WindowEntry{"mnuFSubContractors", "frmSubContractor"},
+    WindowEntry{"mnuFEmployees", "frmEmployees"},
+    WindowEntry{"mnuFUserSettings", "frmCompany"},
+    WindowEntry{"mnuFContractTypes", "frmContracts"},
+    WindowEntry{"mnuFIEmployees", "frmImport", {{{"Employee", "true"}, {"Excel", "true"}}}},
+    WindowEntry{"mnuFISExcel", "frmImport", {{{"Employee", "false"}, {"Excel", "true"}}}},
+    WindowEntry{"mnuFISCompany", "frmImportExisting"},
+    WindowEntry{"mnuRRAnnualSubCon", "frmRemittanceCalc"},
+    WindowEntry{"mnuRREmpRemitt", "frmRemittanceCalc"},
+    WindowEntry{"mnuRRSubConRemitt", "frmRemittanceCalc"},
+    WindowEntry{"mnuRRQSubCon", "frmRemittanceCalc"},
+    WindowEntry{"mnuREmployerYEUpdate", "frmRemittanceCalc", {{{"SelectReportOptions", "1"}}}},
+    WindowEntry{"mnuRPrincipalReport", "frmRemittanceCalc", {{{"SelectReportOptions", "3"}}}},
+    WindowEntry{"mnuRAssetLog", "frmRemittanceCalc", {{{"SelectReportOptions", "2"}}}},
+    WindowEntry{"mnuRClearance", "frmReports", {{{"SelectReportType", "3"}}}},
+};
+
+// Commands of the main window itself that need nothing of it.
+struct CommandEntry {
+  const char* entry;
+  void (*run)(ScreenContext);
+};
+
+template <WindowArrangement arrangement>
+void Arrange(ScreenContext context) {
+  context.services.ArrangeWindows(arrangement);
+}
+
+constexpr std::array kCommandEntries{
+    CommandEntry{"mnuFCompactDataBase", [](ScreenContext context) { CompactDatabase(context); }},
+    CommandEntry{"mnuFYEProcedure", PerformYearEnd},
+    CommandEntry{"mnuFResetMaxContrib",
+                 [](ScreenContext context) { ResetMaximumContribution(context); }},
+    CommandEntry{"mnuWHorizontal", Arrange<WindowArrangement::kHorizontal>},
+    CommandEntry{"mnuWVertical", Arrange<WindowArrangement::kVertical>},
+    CommandEntry{"mnuWCascade", Arrange<WindowArrangement::kCascade>},
+    CommandEntry{"mnuWArrange", Arrange<WindowArrangement::kIcons>},
+    CommandEntry{"mnuHContents", ShowManual},
+    CommandEntry{"mnuHabout", ShowAbout},
 };
 
 }  // namespace
 
 std::string MainTitle() { return std::string("Lorvane Assessment for Windows ") + kVersionText; }
+
+std::string VersionLine() { return std::string("Version: ") + kVersionText; }
 
 frmMain::frmMain(ScreenContext context) : Screen(context, "frmMain", MainTitle()), menu_(*this) {
   ConnectMenu();
@@ -58,12 +90,18 @@ void frmMain::ConnectMenu() {
   for (const WindowEntry& window : kWindowEntries) {
     menu_.Entry(window.entry).OnClick = [this, &window] {
       ScreenArguments arguments;
-      if (!std::string_view(window.property).empty()) {
-        arguments.emplace_back(window.property, window.value);
+      for (const WindowProperty& property : window.properties) {
+        if (!std::string_view(property.name).empty()) {
+          arguments.emplace_back(property.name, property.value);
+        }
       }
       context_.services.OpenScreen(window.screen, arguments);
     };
   }
+  for (const CommandEntry& command : kCommandEntries) {
+    menu_.Entry(command.entry).OnClick = [this, &command] { command.run(context_); };
+  }
+  menu_.Entry("mnuFNewCompany").OnClick = [this] { NewCompany(); };
   menu_.Entry("mnuFOpenCompany").OnClick = [this] { mnuFOpenCompany_Click(); };
   menu_.Entry("mnuFExit").OnClick = [this] { Close(); };
 }
@@ -85,6 +123,10 @@ std::optional<std::string> frmMain::Property(std::string_view name) const {
 }
 
 bool frmMain::Call(std::string_view operation) {
+  if (operation == "mnuFOpenCompany_Click") {
+    mnuFOpenCompany_Click();
+    return true;
+  }
   if (operation == "ActivateMenu") {
     ActivateMenu();
     return true;
@@ -94,6 +136,21 @@ bool frmMain::Call(std::string_view operation) {
     return true;
   }
   return false;
+}
+
+void frmMain::NewCompany() {
+  try {
+    context_.services.OpenModeless("frmCheckList");
+  } catch (const RuntimeError& error) {
+    if (error.Number() == error_number::kTypeMismatch) {
+      context_.services.MsgBox(
+          "The was a problem setting up this company.\r\n\r\n"
+          "Please close the application and try again.",
+          box::kExclamation, "Company");
+    } else {
+      ShowError(context_, error, box::kExclamation);
+    }
+  }
 }
 
 void frmMain::mnuFOpenCompany_Click() {

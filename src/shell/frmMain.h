@@ -40,6 +40,7 @@ class frmMain : public Screen {
 
  private:
   void ConnectMenu();
+  void NewCompany();
   void OpenChosenCompany();
 
   MainMenu menu_;
@@ -48,5 +49,7 @@ class frmMain : public Screen {
 
 /// "Lorvane Assessment for Windows " and the version: how every title of the main window begins.
 [[nodiscard]] std::string MainTitle();
+/// "Version: " and the version.
+[[nodiscard]] std::string VersionLine();
 
 }  // namespace lorvane

@@ -8,7 +8,9 @@
 #include "payments/frmSelectAssessment.h"
 #include "payments/frmSelectDate.h"
 #include "screen/modForm.h"
+#include "shell/frmAbout.h"
 #include "shell/frmMain.h"
+#include "shell/frmSplash.h"
 
 namespace lorvane {
 
@@ -21,7 +23,9 @@ std::unique_ptr<Session> Main(DataEnvironment environment, Files& files) {
 
 ScreenRegistry AllScreens() {
   ScreenRegistry registry;
+  registry.Add<frmSplash>("frmSplash");
   registry.Add<frmMain>("frmMain");
+  registry.Add<frmAbout>("frmAbout");
   registry.Add<frmSelectAssessment>("frmSelectAssessment");
   return registry;
 }

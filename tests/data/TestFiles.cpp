@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 
 #include "basic/RuntimeError.h"
 #include "data/Files.h"
@@ -86,6 +87,34 @@ TEST_F(FilesOnDisk, AFailedCopyLeavesNothing) {
     EXPECT_EQ(ErrorOf(new_, [&] { files_.Copy(old_, new_); }), 75);
   }
   EXPECT_EQ(Names(), std::vector<std::string>{"old"});
+}
+
+TEST_F(FilesOnDisk, ACopyHasItsNameOnlyWhenItIsWhole) {
+  EXPECT_EQ(ErrorOf(new_,
+                    [&] {
+                      files_.WriteNew(new_, [&](const TakeBytes& take) {
+                        take("half");
+                        EXPECT_FALSE(files_.Exists(new_));
+                        std::ofstream(new_) << "somebody else's";
+                      });
+                    }),
+            58);
+  EXPECT_EQ(files_.Read(new_), "somebody else's");
+  EXPECT_EQ(Names(), std::vector<std::string>{"new"});
+}
+
+TEST_F(FilesOnDisk, FoldersAndReplacements) {
+  const std::string folder = folder_.File("2026");
+  files_.MakeFolder(folder);
+  EXPECT_EQ(ErrorOf(folder, [&] { files_.MakeFolder(folder); }), 58);
+  const std::string deep = folder_.File("no/2026");
+  EXPECT_EQ(ErrorOf(deep, [&] { files_.MakeFolder(deep); }), 53);
+  files_.Write(old_, "12345");
+  EXPECT_EQ(ErrorOf(new_, [&] { files_.Replace(old_, new_); }), 53);
+  EXPECT_EQ(ErrorOf(new_, [&] { static_cast<void>(files_.Size(new_)); }), 53);
+  EXPECT_EQ(files_.Size(old_), 5U);
+  EXPECT_EQ(ErrorOf(folder, [&] { files_.Replace(old_, folder); }), 75);
+  EXPECT_EQ(Names(), (std::vector<std::string>{"2026", "old"}));
 }
 
 TEST_F(FilesOnDisk, AFailedWriteKeepsTheOldContent) {

@@ -31,6 +31,7 @@ class RecordingEngine::Connection : public EngineConnection {
   void BeginBatch() override {}
   void EndBatch() override {}
   void Checkpoint() override {}
+  void ReadDataFile(const std::function<void(std::string_view)>&) override {}
   void WriteCompactCopy(const std::string&) override {}
   std::vector<std::string> CheckIntegrity() override { return {}; }
 

@@ -70,6 +70,15 @@ bool ScriptedServices::OpenScreen(std::string_view name, const ScreenArguments& 
   }
 }
 
+bool ScriptedServices::OpenModeless(std::string_view name) {
+  try {
+    return ScriptServices::OpenModeless(name);
+  } catch (const ScriptFailure& failure) {
+    ADD_FAILURE() << failure.message;
+    return false;
+  }
+}
+
 std::string ScriptedServices::Written(const std::optional<ShownBox>& shown) {
   return shown ? WrittenBox(*shown) : std::string();
 }

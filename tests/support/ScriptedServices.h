@@ -37,6 +37,7 @@ class ScriptedServices : public ScriptServices {
                                      const std::string& proposal) override;
   [[nodiscard]] std::string AskForFile(const FileDialog& dialog) override;
   bool OpenScreen(std::string_view name, const ScreenArguments& arguments) override;
+  bool OpenModeless(std::string_view name) override;
 
  private:
   static std::string Written(const std::optional<ShownBox>& shown);

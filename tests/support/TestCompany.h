@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "data/Files.h"
 #include "data/engine/Engine.h"
 #include "screen/ScreenHost.h"
 #include "screen/Session.h"
+#include "support/FaultyFiles.h"
 #include "support/ScriptedServices.h"
 #include "support/TemporaryFolder.h"
 
@@ -22,6 +22,9 @@ class TestCompany {
  public:
   /// `screens` outlives the company.
   explicit TestCompany(const ScreenRegistry& screens = NoScreens());
+
+  /// The disk, which can be told to fail.
+  [[nodiscard]] FaultyFiles& Disk() { return files_; }
 
   [[nodiscard]] const std::string& Folder() const { return folder_.Path(); }
   [[nodiscard]] std::string DataFile() const { return folder_.File("Data.mdb"); }
@@ -42,7 +45,7 @@ class TestCompany {
 
  private:
   TemporaryFolder folder_;
-  DiskFiles files_;
+  FaultyFiles files_;
   std::unique_ptr<Engine> engine_;
   Session session_;
   ScriptedServices services_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -67,6 +68,10 @@ class EngineConnection {
   /// Brings everything written into the data file itself, so that the file can be copied as it
   /// stands.
   virtual void Checkpoint() = 0;
+  /// Hands on the bytes of the data file as it stands, everything written included, block after
+  /// block. Nobody can write meanwhile. This is how an open file is copied: reading it by another
+  /// way would drop the locks that this connection holds.
+  virtual void ReadDataFile(const std::function<void(std::string_view block)>& take) = 0;
   /// Writes what the file holds, without its gaps and with its protection, to a new file, which is
   /// on the disk in full when this returns. Raises 58 when there is one of that name; a failure
   /// leaves no file behind.

@@ -10,6 +10,7 @@
 #include "data/engine/CompactCopy.h"
 #include "data/engine/Lexer.h"
 #include "data/engine/Parser.h"
+#include "data/engine/RawFile.h"
 #include "data/engine/Renderer.h"
 #include "data/engine/RowReader.h"
 #include "data/engine/SchemaChanges.h"
@@ -256,6 +257,18 @@ void FileConnection::Checkpoint() {
     if (database_->ReadNumber("PRAGMA wal_checkpoint(TRUNCATE)") != 0) {
       database_->Fail(SQLITE_BUSY);
     }
+  });
+}
+
+void FileConnection::ReadDataFile(const std::function<void(std::string_view block)>& take) {
+  Checkpoint();
+  Recorded([&] {
+    const WriteLock lock(*database_);
+    // What somebody else wrote since the checkpoint isn't in the file yet.
+    if (RawFile::LogOf(*database_).Size() != 0) {
+      database_->Fail(SQLITE_BUSY);
+    }
+    RawFile::DataOf(*database_).Read(take);
   });
 }
 

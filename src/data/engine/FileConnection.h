@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -37,6 +38,7 @@ class FileConnection : public EngineConnection {
   void EndBatch() override;
 
   void Checkpoint() override;
+  void ReadDataFile(const std::function<void(std::string_view block)>& take) override;
   void WriteCompactCopy(const std::string& path) override;
   std::vector<std::string> CheckIntegrity() override;
 

@@ -12,6 +12,7 @@
 #include "data/engine/Database.h"
 #include "data/engine/FileConnection.h"
 #include "data/engine/NewFile.h"
+#include "data/engine/RawFile.h"
 #include "data/engine/SqlFunctions.h"
 
 namespace lorvane::sql {
@@ -49,21 +50,12 @@ struct FileHeader {
   }
 };
 
-// Through the library's own handle: closing another one would drop the locks that this process
-// holds on the file.
 FileHeader ReadHeader(Database& database) {
   FileHeader header;
-  sqlite3_file* file = nullptr;
-  int code = sqlite3_file_control(database.Handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
-  if (code == SQLITE_OK) {
-    code = file->pMethods->xFileSize(file, &header.size);
-  }
-  if (code == SQLITE_OK && header.size >= kSmallestFile) {
-    code =
-        file->pMethods->xRead(file, header.bytes.data(), static_cast<int>(header.bytes.size()), 0);
-  }
-  if (code != SQLITE_OK) {
-    database.Fail(code);
+  const RawFile file = RawFile::DataOf(database);
+  header.size = file.Size();
+  if (header.size >= kSmallestFile) {
+    file.ReadAt(0, header.bytes.data(), static_cast<int>(header.bytes.size()));
   }
   return header;
 }

@@ -38,6 +38,8 @@ NewFile::~NewFile() {
   if (!kept_) {
     std::error_code ignored;
     fs::remove(path_, ignored);
+    // An unfinished change leaves this beside it.
+    fs::remove(path_ + "-journal", ignored);
   }
 }
 

@@ -70,6 +70,19 @@ void Transactions::Finish() noexcept {
   }
 }
 
+WriteLock::WriteLock(Database& database) : database_(&database) {
+  RunPrepared(*database_, "BEGIN IMMEDIATE");
+}
+
+WriteLock::~WriteLock() {
+  try {
+    RunPrepared(*database_, "ROLLBACK");
+  } catch (const RuntimeError&) {
+    // Nothing was written, so nothing is left open for long: the next statement tells.
+    return;
+  }
+}
+
 Savepoint::Savepoint(Database& database, bool wanted)
     : database_(&database), open_(wanted && database.InTransaction()) {
   if (open_) {

@@ -36,6 +36,18 @@ class Transactions {
   std::optional<RuntimeError> undoing_;
 };
 
+/// Keeps everybody else from writing while it lives. Nothing is written under it.
+class WriteLock {
+ public:
+  explicit WriteLock(Database& database);
+  WriteLock(const WriteLock&) = delete;
+  WriteLock& operator=(const WriteLock&) = delete;
+  ~WriteLock();
+
+ private:
+  Database* database_;
+};
+
 /// Undoes what was written from here on, unless it is kept. Does nothing outside a transaction.
 class Savepoint {
  public:

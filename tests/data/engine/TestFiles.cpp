@@ -1,3 +1,7 @@
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <fstream>
 #include <iterator>
 
@@ -94,18 +98,45 @@ TEST_F(Files, LeavesNoSideFilesWhenTheLastConnectionCloses) {
   EXPECT_EQ(Rows("SELECT LastName FROM tblEmployees"), "Pike");
 }
 
-TEST_F(Files, CheckpointMakesTheFileWholeForACopy) {
+// Whether another process sees a lock on the file.
+bool IsLocked(const std::string& path) {
+  const pid_t child = fork();
+  if (child == 0) {
+    struct flock lock {};
+    lock.l_type = F_WRLCK;
+    const int handle = open(path.c_str(), O_RDWR);
+    _exit(fcntl(handle, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK ? 1 : 0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WEXITSTATUS(status) == 1;
+}
+
+TEST_F(Files, AnOpenFileIsReadWholeAndStaysLocked) {
   Run("INSERT INTO tblEmployees (LastName) VALUES ('Pike')");
-  connection_->Checkpoint();
-  fs::copy_file(path_, folder_ + "/Copy.mdb");
-  const std::unique_ptr<EngineConnection> copy = engine_.Open(folder_ + "/Copy.mdb", kPassword);
-  EXPECT_EQ(Rows(*copy, "SELECT LastName FROM tblEmployees"), "Pike");
-  connection_->BeginBatch();
-  EXPECT_EQ(Try([&] {
-              connection_->Checkpoint();
-              return std::string();
+  ASSERT_TRUE(IsLocked(path_));
+  std::string bytes;
+  const auto read = [&] {
+    return Try([&] {
+      connection_->ReadDataFile([&](std::string_view block) { bytes += block; });
+      return std::string();
+    });
+  };
+  EXPECT_EQ(read(), "");
+  EXPECT_TRUE(IsLocked(path_));
+  EXPECT_EQ(bytes, Bytes());
+  Put("Copy.mdb", bytes);
+  EXPECT_EQ(
+      Rows(*engine_.Open(folder_ + "/Copy.mdb", kPassword), "SELECT LastName FROM tblEmployees"),
+      "Pike");
+  EXPECT_EQ(Try([&]() -> std::string {
+              connection_->ReadDataFile([](std::string_view) { throw RuntimeError(61); });
+              return {};
             }),
-            "80004005");
+            "3d");
+  EXPECT_EQ(Run("INSERT INTO tblEmployees (LastName) VALUES ('Rowe')"), "1");
+  connection_->BeginBatch();
+  EXPECT_EQ(read(), "80004005");
   connection_->EndBatch();
 }
 
@@ -135,20 +166,23 @@ TEST_F(Files, WritesACompactCopyOfTheSameProtection) {
 }
 
 TEST_F(Files, ACompactCopyThatDoesNotFitLeavesNothingBehind) {
-  connection_.reset();
-  FaultyVfs disk;
-  connection_ = engine_.Open(path_, kPassword);
-  disk.FillAfter(2000);
-  EXPECT_EQ(Try([&] {
-              connection_->WriteCompactCopy(folder_ + "/Copy.mdb");
-              return std::string();
-            }),
-            "80070070");
-  disk.Heal();
-  EXPECT_FALSE(fs::exists(folder_ + "/Copy.mdb"));
-  EXPECT_EQ(Run("INSERT INTO tblEmployees (Visits) VALUES (5)"), "1");
-  connection_.reset();
-  EXPECT_EQ(NamesInFolder(), std::vector<std::string>{"Data.mdb"});
+  for (const std::int64_t bytes : {0, 2000, 6000, 8000}) {
+    SCOPED_TRACE(bytes);
+    connection_.reset();
+    FaultyVfs disk;
+    connection_ = engine_.Open(path_, kPassword);
+    disk.FillAfter(bytes);
+    EXPECT_EQ(Try([&] {
+                connection_->WriteCompactCopy(folder_ + "/Copy.mdb");
+                return std::string();
+              }),
+              "80070070");
+    disk.Heal();
+    EXPECT_FALSE(fs::exists(folder_ + "/Copy.mdb"));
+    EXPECT_EQ(Run("INSERT INTO tblEmployees (Visits) VALUES (5)"), "1");
+    connection_.reset();
+    EXPECT_EQ(NamesInFolder(), std::vector<std::string>{"Data.mdb"});
+  }
 }
 
 TEST_F(Files, DerivesTheKeyOfAnOpenFileOnce) {

@@ -1,4 +1,4 @@
-#include "cli/SystemClock.h"
+#include "screen/SystemClock.h"
 
 #include <ctime>
 
