@@ -1,0 +1,190 @@
+#include "desktop/MainWindow.h"
+
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+
+#include "desktop/StartPanel.h"
+#include "desktop/binder/QtText.h"
+#include "desktop/binder/ScreenDialog.h"
+#include "screen/Session.h"
+
+namespace lorvane {
+namespace {
+
+QLabel* Panel(QStatusBar& bar, const char* name, const QString& said, int stretch) {
+  auto* panel = new QLabel(&bar);
+  panel->setObjectName(QLatin1String(name));
+  panel->setAccessibleName(said);
+  panel->setTextFormat(Qt::PlainText);
+  if (stretch > 0) {
+    bar.addWidget(panel, stretch);
+  } else {
+    bar.addPermanentWidget(panel);
+  }
+  return panel;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(frmMain& screen, ScreenGate& gate, StatusPanels& status)
+    : screen_(screen), status_(status), binder_(screen, gate, *this), ground_(new QMdiArea(this)) {
+  constexpr int kWidth = 170;
+  constexpr int kHeight = 48;
+  ground_->setObjectName(QStringLiteral("ground"));
+  setCentralWidget(ground_);
+  binder_.MakeMenus(*menuBar());
+  MakeStatusBar();
+  binder_.Finish();
+  panel_ = new StartPanel(binder_, ground_->viewport());
+  binder_.OnRefresh = [this] { Refresh(); };
+  status_.OnChanged = [this] { ShowStatus(); };
+  const QSize wanted(kWidth * fontMetrics().averageCharWidth(),
+                     kHeight * fontMetrics().lineSpacing());
+  resize(wanted.boundedTo(QWidget::screen()->availableSize()));
+  ShowStatus();
+  Refresh();
+}
+
+MainWindow::~MainWindow() { status_.OnChanged = nullptr; }
+
+void MainWindow::MakeStatusBar() {
+  QStatusBar& bar = *statusBar();
+  bar.setObjectName(QStringLiteral("sbrMain"));
+  message_ = Panel(bar, "sbrMain_Msg", tr("Message"), 1);
+  assessment_ = Panel(bar, "sbrMain_Assessment", tr("Kind of payee"), 0);
+  form_ = Panel(bar, "sbrMain_Form", tr("Window"), 0);
+}
+
+void MainWindow::Refresh() {
+  const QString title = ToQt(screen_.Caption());
+  if (windowTitle() != title || panel_->property("ground") != screen_.BackColour().value_or(-1)) {
+    setWindowTitle(title);
+    constexpr int kDarker = 112;
+    const std::optional<int> colour = screen_.BackColour();
+    panel_->setProperty("ground", colour.value_or(-1));
+    ground_->setBackground(colour ? QColor::fromRgb(static_cast<QRgb>(*colour))
+                                  : palette().color(QPalette::Window).darker(kDarker));
+  }
+  // The company's name, or that none is open, stands behind the program's in the title.
+  const QString program = ToQt(MainTitle());
+  QString open = title.startsWith(program) ? title.mid(program.size()).trimmed() : title;
+  if (open.startsWith(QLatin1String("for: "))) {
+    open.remove(0, 5);
+  }
+  panel_->Refresh(open);
+  PlacePanel();
+}
+
+void MainWindow::ShowStatus() {
+  message_->setText(ToQt(status_.Msg));
+  assessment_->setText(ToQt(status_.Assessment));
+  form_->setText(ToQt(status_.Form));
+}
+
+void MainWindow::PaintStatus() {
+  ShowStatus();
+  statusBar()->repaint();
+}
+
+void MainWindow::PlacePanel() {
+  const QSize room = ground_->viewport()->size();
+  panel_->move(std::max(0, (room.width() - panel_->width()) / 2),
+               std::max(0, (room.height() - panel_->height()) / 2));
+  const QPoint inner = ground_->mapTo(this, QPoint());
+  screen_.Place = {inner.x(), inner.y(), room.width(), room.height()};
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  PlacePanel();
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  PlacePanel();
+}
+
+QMdiSubWindow* MainWindow::PlaceOf(const ScreenDialog& window) const {
+  for (QMdiSubWindow* place : ground_->subWindowList()) {
+    if (place->widget() == &window) {
+      return place;
+    }
+  }
+  return nullptr;
+}
+
+void MainWindow::Adopt(ScreenDialog& window) {
+  QMdiSubWindow* place = ground_->addSubWindow(&window);
+  place->setAttribute(Qt::WA_DeleteOnClose, false);
+  place->setWindowIcon(windowIcon());
+  window.Open();
+  place->show();
+}
+
+void MainWindow::BringToFront(ScreenDialog& window) {
+  if (QMdiSubWindow* place = PlaceOf(window)) {
+    place->showNormal();
+    ground_->setActiveSubWindow(place);
+  }
+}
+
+void MainWindow::Release(ScreenDialog& window) {
+  if (QMdiSubWindow* place = PlaceOf(window)) {
+    window.hide();
+    place->setWidget(nullptr);
+    window.setParent(nullptr);
+    ground_->removeSubWindow(place);
+    place->deleteLater();
+  }
+}
+
+void MainWindow::Arrange(WindowArrangement arrangement) {
+  switch (arrangement) {
+    case WindowArrangement::kCascade:
+      ground_->cascadeSubWindows();
+      break;
+    case WindowArrangement::kHorizontal:
+      Tile(Qt::Horizontal);
+      break;
+    case WindowArrangement::kVertical:
+      Tile(Qt::Vertical);
+      break;
+    case WindowArrangement::kIcons: {
+      // Those that are icons stand in a row at the bottom.
+      int left = 0;
+      for (QMdiSubWindow* place : ground_->subWindowList()) {
+        if (place->isMinimized()) {
+          place->move(left, ground_->viewport()->height() - place->height());
+          left += place->width();
+        }
+      }
+      break;
+    }
+  }
+}
+
+// Horizontal tiles lie one above the other, vertical ones side by side.
+void MainWindow::Tile(Qt::Orientation orientation) {
+  std::vector<QMdiSubWindow*> places;
+  for (QMdiSubWindow* place : ground_->subWindowList()) {
+    if (!place->isMinimized() && place->isVisible()) {
+      places.push_back(place);
+    }
+  }
+  const QSize room = ground_->viewport()->size();
+  const int count = static_cast<int>(places.size());
+  for (int i = 0; i < count; ++i) {
+    QMdiSubWindow& place = *places[static_cast<std::size_t>(i)];
+    place.showNormal();
+    if (orientation == Qt::Horizontal) {
+      place.setGeometry(0, room.height() * i / count, room.width(), room.height() / count);
+    } else {
+      place.setGeometry(room.width() * i / count, 0, room.width() / count, room.height());
+    }
+  }
+}
+
+}  // namespace lorvane

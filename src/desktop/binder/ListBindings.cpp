@@ -1,0 +1,124 @@
+#include "desktop/binder/ListBindings.h"
+
+#include <QEvent>
+#include <QItemSelectionModel>
+#include <QLineEdit>
+
+#include "desktop/binder/QtText.h"
+
+namespace lorvane {
+namespace {
+
+// Makes the widget's entries those of the control, touching only what differs.
+template <typename Widget>
+void ShowEntries(const ListControl& control, Widget& widget) {
+  while (widget.count() > control.Count()) {
+    if constexpr (std::is_same_v<Widget, QListWidget>) {
+      delete widget.takeItem(widget.count() - 1);
+    } else {
+      widget.removeItem(widget.count() - 1);
+    }
+  }
+  for (int i = 0; i < control.Count(); ++i) {
+    const QString text = ToQt(control.EntryText(i));
+    if (i >= widget.count()) {
+      widget.addItem(text);
+      continue;
+    }
+    if constexpr (std::is_same_v<Widget, QListWidget>) {
+      if (widget.item(i)->text() != text) {
+        widget.item(i)->setText(text);
+      }
+    } else if (widget.itemText(i) != text) {
+      widget.setItemText(i, text);
+    }
+  }
+}
+
+}  // namespace
+
+ListBoxBinding::ListBoxBinding(WindowBinder& window, ListBox& control, QListWidget& list)
+    : Binding(window, control, list), control_(control), list_(list) {
+  Watch(*list.viewport());
+  // Getting the focus makes an entry current, but selects none.
+  connect(&list, &QListWidget::itemSelectionChanged, this, [this] {
+    const QList<QListWidgetItem*> selected = list_.selectedItems();
+    if (!selected.empty()) {
+      Act([this, row = list_.row(selected.front())] { control_.UserSelect(row); });
+    }
+  });
+  connect(&list, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+    const int row = list_.row(item);
+    // A click on the entry that is selected already counts once more.
+    if (row == selectedAtPress_) {
+      Act([this, row] { control_.UserSelect(row); });
+    }
+  });
+  connect(&list, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem* item) {
+    const int row = list_.row(item);
+    Act([this, row] { control_.UserDoubleClick(row); });
+  });
+}
+
+bool ListBoxBinding::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress) {
+    selectedAtPress_ = control_.ListIndex();
+  } else if (event->type() == QEvent::MouseButtonDblClick) {
+    // The list tells which entry it was.
+    return false;
+  } else if (control_.ListIndex() < 0 && SelectsFirstRow(*event)) {
+    Act([this] { control_.UserSelect(0); });
+    return true;
+  }
+  return Binding::eventFilter(watched, event);
+}
+
+void ListBoxBinding::ShowValue() {
+  ShowEntries(control_, list_);
+  QListWidgetItem* chosen = list_.item(control_.ListIndex());
+  if (chosen == nullptr) {
+    list_.clearSelection();
+  } else if (!chosen->isSelected() || list_.currentItem() != chosen) {
+    list_.setCurrentItem(chosen, QItemSelectionModel::ClearAndSelect);
+  }
+}
+
+void DropDown::showPopup() {
+  if (OnOpening) {
+    OnOpening();
+  }
+  if (isEnabled() && isVisible()) {
+    QComboBox::showPopup();
+  }
+}
+
+ComboBinding::ComboBinding(WindowBinder& window, ComboBox& control, DropDown& combo)
+    : Binding(window, control, combo), control_(control), combo_(combo) {
+  combo.setEditable(control.BoxStyle() == ComboBox::Style::kDropDown);
+  combo.setInsertPolicy(QComboBox::NoInsert);
+  combo.OnOpening = [this] { Act([this] { control_.UserDropDown(); }); };
+  connect(&combo, &QComboBox::activated, this,
+          [this](int index) { Act([this, index] { control_.ListControl::UserSelect(index); }); });
+  if (QLineEdit* edit = combo.lineEdit()) {
+    Watch(*edit);
+    edit->setCompleter(nullptr);
+    connect(edit, &QLineEdit::textEdited, this, [this](const QString& typed) {
+      Act([this, typed] { control_.SetText(FromQt(typed)); });
+    });
+  }
+}
+
+void ComboBinding::ShowValue() {
+  ShowEntries(control_, combo_);
+  if (combo_.currentIndex() != control_.ListIndex()) {
+    combo_.setCurrentIndex(control_.ListIndex());
+  }
+  if (QLineEdit* edit = combo_.lineEdit()) {
+    const QString text = ToQt(control_.Text());
+    if (edit->text() != text) {
+      edit->setText(text);
+    }
+  }
+}
+
+}  // namespace lorvane

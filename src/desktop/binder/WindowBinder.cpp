@@ -1,0 +1,201 @@
+#include "desktop/binder/WindowBinder.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCursor>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QToolButton>
+#include <algorithm>
+
+#include "desktop/binder/Binding.h"
+#include "desktop/binder/Icons.h"
+#include "desktop/binder/MenuBinding.h"
+#include "desktop/binder/Mnemonics.h"
+#include "desktop/binder/QtText.h"
+#include "desktop/binder/ScreenGate.h"
+#include "screen/Menu.h"
+#include "screen/Screen.h"
+
+namespace lorvane {
+
+WindowBinder::WindowBinder(Screen& screen, ScreenGate& gate, QWidget& window)
+    : screen_(screen), gate_(gate), window_(window) {
+  window.setObjectName(ToQt(screen.Name()));
+  window.installEventFilter(this);
+  screen.OnPopUp = [this](Control& menu) { ShowPopUp(menu); };
+  gate.Add(*this);
+}
+
+WindowBinder::~WindowBinder() {
+  gate_.Remove(*this);
+  screen_.OnPopUp = nullptr;
+  for (Binding* binding : bindings_) {
+    binding->Detach();
+  }
+  for (MenuBinding* menu : menus_) {
+    menu->Detach();
+  }
+}
+
+void WindowBinder::MakeMenus(QMenuBar& bar) {
+  for (Control* control : screen_.Controls()) {
+    auto* menu = dynamic_cast<MenuEntry*>(control);
+    if (menu == nullptr || menu->Parent() != nullptr) {
+      continue;
+    }
+    auto* made = new QMenu(&window_);
+    made->setObjectName(ToQt(menu->Name()));
+    FillMenu(*made, *menu);
+    if (menu->IsPopUp()) {
+      popUps_.push_back(made);
+    } else {
+      bar.addMenu(made);
+      menus_.push_back(new MenuBinding(*this, *menu, *made->menuAction()));
+    }
+  }
+}
+
+void WindowBinder::FillMenu(QMenu& menu, const MenuEntry& parent) {
+  for (MenuEntry* entry : parent.Children()) {
+    QAction* action = nullptr;
+    if (entry->IsSeparator()) {
+      action = menu.addSeparator();
+    } else if (!entry->Children().empty()) {
+      QMenu* inner = menu.addMenu(QString());
+      FillMenu(*inner, *entry);
+      action = inner->menuAction();
+    } else {
+      action = menu.addAction(QString());
+    }
+    menus_.push_back(new MenuBinding(*this, *entry, *action));
+  }
+}
+
+QAction* WindowBinder::ActionOf(const MenuEntry& entry) const {
+  const auto found = std::find_if(menus_.begin(), menus_.end(), [&](const MenuBinding* menu) {
+    return &menu->Model() == &entry;
+  });
+  return found == menus_.end() ? nullptr : &(*found)->Action();
+}
+
+void WindowBinder::ShowPopUp(Control& menu) {
+  const QString name = ToQt(menu.Name());
+  const auto found = std::find_if(popUps_.begin(), popUps_.end(),
+                                  [&](const QMenu* popUp) { return popUp->objectName() == name; });
+  if (found == popUps_.end()) {
+    return;
+  }
+  // Opened by the keyboard, the menu stands at the control that has the focus.
+  const Binding* at = BindingOf(screen_.Focus());
+  const QPoint pointer = QCursor::pos();
+  const bool byMouse =
+      at == nullptr || at->Widget().rect().contains(at->Widget().mapFromGlobal(pointer));
+  (*found)->popup(byMouse ? pointer : at->Widget().mapToGlobal(at->Widget().rect().center()));
+}
+
+void WindowBinder::Finish() {
+  Flush();
+  AssignMnemonics(window_);
+  for (const Binding* binding : bindings_) {
+    QWidget& widget = binding->Widget();
+    if (widget.accessibleName().isEmpty()) {
+      const Control& control = binding->Model();
+      const std::string& said = control.Caption().empty() ? control.Tip() : control.Caption();
+      widget.setAccessibleName(WithoutMnemonic(ToQt(said.empty() ? control.Name() : said)));
+    }
+  }
+}
+
+void WindowBinder::FocusFirst() {
+  if (screen_.Focus() != nullptr) {
+    FollowFocus();
+    return;
+  }
+  for (Control* control : screen_.Controls()) {
+    const Binding* binding = BindingOf(control);
+    if (binding != nullptr && control->TakesFocus() && control->TabStop() && control->Usable() &&
+        binding->Widget().isVisibleTo(&window_)) {
+      gate_.Run([&] { screen_.MoveFocus(*control); });
+      return;
+    }
+  }
+}
+
+void WindowBinder::Flush() {
+  for (MenuBinding* menu : menus_) {
+    menu->Flush();
+  }
+  // A binding may go with the widget of another.
+  for (std::size_t i = 0; i < bindings_.size(); ++i) {
+    bindings_[i]->Flush();
+  }
+  if (OnRefresh) {
+    OnRefresh();
+  }
+  FollowFocus();
+  if (screen_.IsClosed() && !std::exchange(closedTold_, true) && OnClosed) {
+    OnClosed();
+  }
+}
+
+void WindowBinder::CloseScreen() {
+  gate_.Run([this] { screen_.Close(); });
+}
+
+void WindowBinder::FollowFocus() {
+  const Binding* binding = BindingOf(screen_.Focus());
+  if (binding == nullptr || !window_.isVisible()) {
+    return;
+  }
+  QWidget& widget = binding->Widget();
+  const QWidget* focus = window_.focusWidget();
+  const bool there = focus != nullptr && (focus == &widget || widget.isAncestorOf(focus));
+  if (!there && widget.isEnabled() && widget.isVisible()) {
+    widget.setFocus(Qt::OtherFocusReason);
+  }
+}
+
+Binding* WindowBinder::BindingOf(const Control* control) const {
+  const auto found = std::find_if(bindings_.begin(), bindings_.end(), [&](const Binding* binding) {
+    return &binding->Model() == control;
+  });
+  return found == bindings_.end() ? nullptr : *found;
+}
+
+// The screen decides where the Tab key leads, as it does for its scripts.
+void WindowBinder::MoveByTab(Control& from, bool forward) {
+  gate_.Run([&] {
+    if (screen_.Focus() != &from && !screen_.MoveFocus(from)) {
+      return;
+    }
+    if (forward) {
+      screen_.UserKey(from, key_code::kTab);
+    } else {
+      screen_.FocusPrevious();
+    }
+  });
+}
+
+bool WindowBinder::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::KeyPress: {
+      // Nothing of the window took the key. The toolkit's own Enter and Escape are no part of it.
+      const int key = ScreenKey(*static_cast<QKeyEvent*>(event));
+      return key == key_code::kEnter || key == key_code::kEscape;
+    }
+    case QEvent::Close:
+      event->ignore();
+      CloseScreen();
+      return true;
+    case QEvent::WindowStateChange:
+      screen_.Minimised = window_.isMinimized();
+      return false;
+    default:
+      return QObject::eventFilter(watched, event);
+  }
+}
+
+}  // namespace lorvane

@@ -1,0 +1,32 @@
+#include "desktop/windows/WindowRegistry.h"
+
+#include "basic/RuntimeError.h"
+#include "desktop/windows/AboutWindow.h"
+#include "desktop/windows/PaymentListWindow.h"
+#include "desktop/windows/PaymentWindow.h"
+#include "desktop/windows/SelectDateWindow.h"
+#include "screen/Screen.h"
+
+namespace lorvane {
+
+std::unique_ptr<ScreenDialog> WindowRegistry::Make(Screen& screen, ScreenGate& gate,
+                                                   QWidget* parent) const {
+  const auto found = makers_.find(screen.Name());
+  if (found == makers_.end()) {
+    throw RuntimeError(error_number::kInternalError, screen.Name() + " has no window.");
+  }
+  std::unique_ptr<ScreenDialog> window = found->second(screen, gate, parent);
+  window->Complete();
+  return window;
+}
+
+WindowRegistry AllWindows() {
+  WindowRegistry windows;
+  windows.Add<frmAbout, AboutWindow>("frmAbout");
+  windows.Add<frmSelectAssessment, PaymentListWindow>("frmSelectAssessment");
+  windows.Add<frmPayment, PaymentWindow>("frmPayment");
+  windows.Add<frmSelectDate, SelectDateWindow>("frmSelectDate");
+  return windows;
+}
+
+}  // namespace lorvane
