@@ -12,7 +12,9 @@
 namespace lorvane {
 
 CommandProgram::CommandProgram(const CommandOptions& options)
-    : file_(std::filesystem::absolute(options.file).lexically_normal().string()),
+    : file_(options.file.empty()
+                ? options.file
+                : std::filesystem::absolute(options.file).lexically_normal().string()),
       engine_(MakeFileEngine()),
       screens_(AllScreens()) {
   const Clock clock = SystemClock();

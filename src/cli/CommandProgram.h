@@ -17,7 +17,7 @@ class CommandFailure : public std::runtime_error {
 
 /// What every command has in common.
 struct CommandOptions {
-  /// The company's data file.
+  /// The company's data file; empty for a command about none.
   std::string file;
   /// Answers every question with Yes.
   bool assumeYes = false;

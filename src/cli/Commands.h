@@ -19,6 +19,12 @@ struct PayeeOptions {
   std::string industry;
 };
 
+struct ListOptions {
+  bool employees = true;
+  /// As CSV with a heading row.
+  bool csv = false;
+};
+
 struct PayOptions {
   PayeeOptions payees;
   /// CSV with the payees' ids and the amounts; a heading row is allowed.
@@ -43,6 +49,7 @@ struct RemittanceOptions {
 
 int RunNew(const CommandOptions& options);
 int RunShow(const CommandOptions& options, bool asJson);
+int RunList(const CommandOptions& options, const ListOptions& people);
 int RunCheck(const CommandOptions& options);
 int RunSql(const CommandOptions& options, const std::string& statement);
 int RunPay(const CommandOptions& options, const PayOptions& pay);
@@ -54,5 +61,11 @@ int RunCompact(const CommandOptions& options);
 int RunResetMaximum(const CommandOptions& options, const std::string& amount);
 /// The year is the one that is closed: the rates are the next year's.
 int RunRollRates(const CommandOptions& options, const std::string& year);
+
+// The published rates of all companies; no company's file is needed.
+int RunRatesList(const CommandOptions& options);
+int RunRatesExport(const CommandOptions& options, int year);
+/// Shows what the sheet changes, asks, and changes it.
+int RunRatesImport(const CommandOptions& options, int year, const std::string& path);
 
 }  // namespace lorvane

@@ -23,6 +23,7 @@ class CommandLine {
     app_.require_subcommand(1);
     AddNew();
     AddShow();
+    AddList();
     AddCheck();
     AddSql();
     AddPay();
@@ -30,6 +31,8 @@ class CommandLine {
     AddRemittance();
     AddYearEnd();
     AddMaintenance();
+
+    AddRates();
     AddScript();
   }
 
@@ -58,7 +61,12 @@ class CommandLine {
 
  private:
   CLI::App* AddCommand(const char* name, const char* help, std::function<int()> run) {
-    CLI::App* command = app_.add_subcommand(name, help);
+    return AddCommand(app_, name, help, std::move(run));
+  }
+
+  CLI::App* AddCommand(CLI::App& parent, const char* name, const char* help,
+                       std::function<int()> run) {
+    CLI::App* command = parent.add_subcommand(name, help);
     command->callback([this, run = std::move(run)] { command_ = run; });
     return command;
   }
@@ -68,18 +76,20 @@ class CommandLine {
     command->add_flag("--yes", options_.assumeYes, "Answer every question with Yes");
   }
 
-  void AddPayees(CLI::App* command, PayeeOptions& payees, bool industryRequired) {
-    command->add_option("FILE", options_.file, "The company's data file")->required();
+  void AddFileAndPeople(CLI::App* command, const char* name, bool& employees) {
+    AddFile(command);
     command
         ->add_option_function<std::string>(
-            "PAYEES",
-            [&payees](const std::string& kind) { payees.employees = kind == "employees"; },
+            name, [&employees](const std::string& kind) { employees = kind == "employees"; },
             "employees or subcontractors")
         ->required()
         ->check(CLI::IsMember({"employees", "subcontractors"}));
+  }
+
+  void AddPayees(CLI::App* command, PayeeOptions& payees, bool industryRequired) {
+    AddFileAndPeople(command, "PAYEES", payees.employees);
     command->add_option("--industry", payees.industry, "The industry's letter, A to F")
         ->required(industryRequired);
-    command->add_flag("--yes", options_.assumeYes, "Answer every question with Yes");
   }
 
   void AddNew() {
@@ -92,6 +102,13 @@ class CommandLine {
                                    [this] { return RunShow(options_, json_); });
     AddFile(command);
     command->add_flag("--json", json_, "As JSON");
+  }
+
+  void AddList() {
+    CLI::App* command = AddCommand("list", "List the employees or the sub-contractors on file",
+                                   [this] { return RunList(options_, list_); });
+    AddFileAndPeople(command, "PEOPLE", list_.employees);
+    command->add_flag("--csv", list_.csv, "As CSV with a heading row");
   }
 
   void AddCheck() {
@@ -153,6 +170,25 @@ class CommandLine {
     reset->add_option("AMOUNT", amount_, "The new maximum, in dollars")->required();
   }
 
+  void AddRates() {
+    CLI::App& rates = *app_.add_subcommand(
+        "rates", "List the published rates, bring a year's in, or export them");
+    rates.require_subcommand(1);
+    AddCommand(rates, "list", "The years that have rates, and how many",
+               [this] { return RunRatesList(options_); });
+    const auto addYear = [this](CLI::App* command) {
+      command->add_option("YEAR", ratesYear_, "The year of the rates")->required();
+    };
+    addYear(AddCommand(rates, "export", "A year's rates as CSV",
+                       [this] { return RunRatesExport(options_, ratesYear_); }));
+    CLI::App* import =
+        AddCommand(rates, "import", "Bring a year's rates in from a CSV sheet, in place of its own",
+                   [this] { return RunRatesImport(options_, ratesYear_, sheet_); });
+    addYear(import);
+    import->add_option("SHEET", sheet_, "CSV file of rows \"code,description,rate\"")->required();
+    import->add_flag("--yes", options_.assumeYes, "Answer every question with Yes");
+  }
+
   void AddScript() {
     CLI::App* command = AddCommand("script", "Run a screen script", [this] { return Script(); });
     command->add_option("SCRIPT", script_.path, "The script's file")->required();
@@ -183,12 +219,16 @@ class CommandLine {
   std::function<int()> command_;
   CommandOptions options_;
   bool json_ = false;
+  ListOptions list_;
   std::string statement_;
   PayOptions pay_;
   PostOptions post_;
   RemittanceOptions remittance_;
   std::string year_;
   std::string amount_;
+
+  int ratesYear_ = 0;
+  std::string sheet_;
   ScriptOptions script_;
   std::vector<std::string> variables_;
   std::string now_;

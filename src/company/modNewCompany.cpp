@@ -1,6 +1,8 @@
 #include "company/modNewCompany.h"
 
 #include <array>
+#include <string>
+#include <vector>
 
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
@@ -46,6 +48,45 @@ constexpr std::array kDesignedKeys{
     DesignedKey{"Environment", "Name", "None"},
 };
 
+std::string ConfigFileOf(const std::string& dataFile) {
+  return GetPathPart(dataFile) + "LorvaneConfig.ini";
+}
+
+// Raises the file layer's error.
+void WriteConfigFile(ScreenContext context, const std::string& dataFile) {
+  Session& session = context.session;
+  const std::string path = GetPathPart(dataFile);
+  const std::string folder = path.empty() ? path : path.substr(0, path.size() - 1);
+  session.gConfigFile = folder;
+  session.gDataConn->DataSource = folder;
+
+  IniDocument document;
+  document.Set("DataBase", "Path", folder);
+  document.Set("Database", "File", GetNamePart(dataFile));
+  const std::string today = ShortDate(context.services.Now().Day());
+  for (const DesignedKey& key : kDesignedKeys) {
+    document.Set(key.section, key.key, key.value == kToday ? today : std::string(key.value));
+  }
+  session.files.Write(ConfigFileOf(dataFile), document.Text());
+}
+
+// What is wrong with the file that was just opened, or couldn't be; empty when nothing is.
+std::string FaultOf(DataConnection& connection) {
+  if (!connection.DataOpen()) {
+    return connection.Errors().front().description;
+  }
+  const std::vector<std::string> faults = connection.Connection().CheckIntegrity();
+  return faults.empty() ? std::string() : faults.front();
+}
+
+void RemoveQuietly(Files& files, const std::string& path) {
+  try {
+    files.Remove(path);
+  } catch (const RuntimeError&) {
+    // The failure that led here has been told.
+  }
+}
+
 }  // namespace
 
 bool CopyTemplateDatabase(ScreenContext context, const std::string& destination) {
@@ -67,24 +108,49 @@ bool CopyTemplateDatabase(ScreenContext context, const std::string& destination)
 }
 
 void CreateConfigFile(ScreenContext context, const std::string& dataFile) {
-  Session& session = context.session;
-  const std::string path = GetPathPart(dataFile);
-  const std::string folder = path.empty() ? path : path.substr(0, path.size() - 1);
-  session.gConfigFile = folder;
-  session.gDataConn->DataSource = folder;
-
-  IniDocument document;
-  document.Set("DataBase", "Path", folder);
-  document.Set("Database", "File", GetNamePart(dataFile));
-  const std::string today = ShortDate(context.services.Now().Day());
-  for (const DesignedKey& key : kDesignedKeys) {
-    document.Set(key.section, key.key, key.value == kToday ? today : std::string(key.value));
-  }
   try {
-    session.files.Write(path + "LorvaneConfig.ini", document.Text());
+    WriteConfigFile(context, dataFile);
   } catch (const RuntimeError&) {
     // Nobody is told; the company opens with the defaults of every key.
   }
+}
+
+bool HoldsCompany(Files& files, const std::string& dataFile) {
+  return files.Exists(FindWithoutCase(ConfigFileOf(dataFile)));
+}
+
+bool MakeCompanyFiles(ScreenContext context, const std::string& dataFile) {
+  if (!CopyTemplateDatabase(context, dataFile)) {
+    return false;
+  }
+  Session& session = context.session;
+  const std::string configFile = session.gConfigFile;
+  const std::string dataSource = session.gDataConn->DataSource;
+  try {
+    WriteConfigFile(context, dataFile);
+    return true;
+  } catch (const RuntimeError& error) {
+    RemoveQuietly(session.files, dataFile);
+    session.gConfigFile = configFile;
+    session.gDataConn->DataSource = dataSource;
+    ShowError(context, error, box::kExclamation);
+    return false;
+  }
+}
+
+bool OpenNewCompany(ScreenContext context, const std::string& dataFile) {
+  Session& session = context.session;
+  session.gDataConn->DataSource = dataFile;
+  const std::string fault = FaultOf(*session.gDataConn);
+  if (fault.empty()) {
+    session.gConfigFile = ConfigFileOf(dataFile);
+    return true;
+  }
+  session.gDataConn->DataClose();
+  RemoveQuietly(session.files, dataFile);
+  RemoveQuietly(session.files, ConfigFileOf(dataFile));
+  ShowError(context, RuntimeError(error_number::kEngineFailure, fault), box::kCritical);
+  return false;
 }
 
 }  // namespace lorvane

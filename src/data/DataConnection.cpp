@@ -89,7 +89,9 @@ bool DataConnection::DataOpen() {
     if (UseODBC || providerConst_ != kJet) {
       throw RuntimeError(error_number::kEngineFailure, "There is no engine for this provider.");
     }
-    connection_ = environment_.engine->Open(DataSource, Password);
+    Engine& engine = *environment_.engine;
+    connection_ =
+        ReadOnly ? engine.OpenToRead(DataSource, Password) : engine.Open(DataSource, Password);
     return true;
   } catch (const RuntimeError& error) {
     openErrors_.push_back({error.Number(), error.Description()});

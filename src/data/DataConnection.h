@@ -52,6 +52,8 @@ class DataConnection {
   bool UseODBC = false;
   std::string DatabaseName;
   std::string DSN;
+  /// Opens DataSource for reading alone, which a write-protected file allows too.
+  bool ReadOnly = false;
 
   /// The last text built by ErrorHandler.
   [[nodiscard]] const std::string& ErrorMsg() const { return errorMsg_; }

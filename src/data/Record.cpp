@@ -183,7 +183,7 @@ bool Record::RunForOneRow(const char* operation, const std::string& statement,
       return false;
     }
     filter = 0;
-    keyGenerated_ = false;
+    generatedKey_.reset();
     return true;
   });
 }
@@ -191,18 +191,20 @@ bool Record::RunForOneRow(const char* operation, const std::string& statement,
 bool Record::GetNewPrimaryKey() {
   return Guarded("GetNewPrimaryKey", "", [&] {
     ClearInfo();
-    if (keyGenerated_) {
+    std::int32_t& key = *std::get<std::int32_t*>(PropertyOf(names_.keyColumn).target);
+    if (generatedKey_) {
+      // Another record may have been read since the insert that failed.
+      key = *generatedKey_;
       return true;
     }
-    const std::int32_t key = Connection().TableIDGet(names_.table, names_.keyColumn);
-    *std::get<std::int32_t*>(PropertyOf(names_.keyColumn).target) = key;
+    key = Connection().TableIDGet(names_.table, names_.keyColumn);
     if (key == -1) {
       infoMsg_ = std::string(names_.className) + ".GetNewPrimaryKey()" + kCrLf +
                  "Could not generate a unique ID for this table: " + names_.keyTable + " " + kCrLf +
                  Connection().ErrorMsg();
       return false;
     }
-    keyGenerated_ = true;
+    generatedKey_ = key;
     return true;
   });
 }

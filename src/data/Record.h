@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -167,7 +168,8 @@ class Record {
   std::int32_t infoCode_ = 0;
   bool eof_ = false;
   std::string sql_;
-  bool keyGenerated_ = false;
+  /// The key of an insert that failed, kept for the next.
+  std::optional<std::int32_t> generatedKey_;
 };
 
 }  // namespace lorvane

@@ -113,8 +113,13 @@ std::string AskForText(QWidget* over, const std::string& prompt, const std::stri
 }
 
 std::string AskForFileName(QWidget* over, const FileDialog& dialog) {
-  return FromQt(QFileDialog::getOpenFileName(over, ToQt(dialog.title), StartOf(dialog.start),
-                                             FilterOf(dialog.filter)));
+  const QString title = ToQt(dialog.title);
+  const QString start = StartOf(dialog.start);
+  const QString filter = FilterOf(dialog.filter);
+  // Whether a file may be written over is the screen's own question.
+  return FromQt(dialog.newFile ? QFileDialog::getSaveFileName(over, title, start, filter, nullptr,
+                                                              QFileDialog::DontConfirmOverwrite)
+                               : QFileDialog::getOpenFileName(over, title, start, filter));
 }
 
 }  // namespace lorvane

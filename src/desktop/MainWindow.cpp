@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
@@ -37,6 +38,7 @@ MainWindow::MainWindow(frmMain& screen, ScreenGate& gate, StatusPanels& status)
   setCentralWidget(ground_);
   binder_.MakeMenus(*menuBar());
   MakeStatusBar();
+  ListWindows();
   binder_.Finish();
   panel_ = new StartPanel(binder_, ground_->viewport());
   binder_.OnRefresh = [this] { Refresh(); };
@@ -49,6 +51,24 @@ MainWindow::MainWindow(frmMain& screen, ScreenGate& gate, StatusPanels& status)
 }
 
 MainWindow::~MainWindow() { status_.OnChanged = nullptr; }
+
+// The Window menu ends with the windows that stand on the ground.
+void MainWindow::ListWindows() {
+  auto* menu = findChild<QMenu*>(QStringLiteral("mnuWindow"));
+  connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+    qDeleteAll(listed_);
+    listed_.clear();
+    for (QMdiSubWindow* place : ground_->subWindowList()) {
+      if (listed_.empty()) {
+        listed_.append(menu->addSeparator());
+      }
+      QAction* action = menu->addAction(place->windowTitle());
+      connect(action, &QAction::triggered, place,
+              [this, place] { ground_->setActiveSubWindow(place); });
+      listed_.append(action);
+    }
+  });
+}
 
 void MainWindow::MakeStatusBar() {
   QStatusBar& bar = *statusBar();

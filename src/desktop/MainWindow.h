@@ -36,6 +36,7 @@ class MainWindow : public QMainWindow {
   void showEvent(QShowEvent* event) override;
 
  private:
+  void ListWindows();
   void MakeStatusBar();
   void Refresh();
   void ShowStatus();
@@ -47,6 +48,8 @@ class MainWindow : public QMainWindow {
   StatusPanels& status_;
   WindowBinder binder_;
   QMdiArea* ground_;
+  /// The entries of the Window menu for the windows on the ground.
+  QList<QAction*> listed_;
   StartPanel* panel_ = nullptr;
   QLabel* message_ = nullptr;
   QLabel* assessment_ = nullptr;

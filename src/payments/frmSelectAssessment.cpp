@@ -3,6 +3,7 @@
 #include "basic/Number.h"
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
+#include "company/IndustryCaption.h"
 #include "company/cIndustry.h"
 #include "payments/Posting.h"
 #include "payments/frmPayment.h"
@@ -19,13 +20,6 @@ namespace lorvane {
 namespace {
 
 constexpr const char* kSection = "Assessment";
-constexpr std::size_t kLongestDescription = 25;
-
-std::string ShortDescription(const std::string& description) {
-  return Length(description) > kLongestDescription
-             ? Trim(Left(description, kLongestDescription)) + "..."
-             : description;
-}
 
 template <typename T>
 const T& At(const std::vector<T>& values, int index) {
@@ -108,7 +102,7 @@ void frmSelectAssessment::LoadIndustryList() {
   for (const IndustrySlot slot : kAllSlots) {
     std::string& rate = industryRates_[IndexOf(slot)];
     if (industries.Ind[slot]) {
-      ListAddItem(lstIndustries, NumberOf(slot), ShortDescription(industries.Desc[slot]));
+      ListAddItem(lstIndustries, NumberOf(slot), IndustryCaption(industries.Desc[slot]));
       rate = ShortestText(industries.Rate[slot]);
     } else {
       rate = "0";

@@ -122,10 +122,13 @@ void ComboBox::SetText(const std::string& text) {
     SetListIndex(index);
   } else if (style_ == Style::kDropDownList) {
     throw RuntimeError(error_number::kTextNotInList);
-  } else {
+  } else if (text != text_) {
     StoreListIndex(-1);
     text_ = text;
     Changed();
+    if (OnChange) {
+      OnChange();
+    }
   }
 }
 

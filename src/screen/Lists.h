@@ -71,7 +71,7 @@ class ComboBox : public ListControl {
   [[nodiscard]] Style BoxStyle() const { return style_; }
   [[nodiscard]] const std::string& Text() const { return text_; }
   /// Selects the entry of that text, which raises OnClick. Raises 383 when no entry has it; where a
-  /// text can be typed it just stands in the field then.
+  /// text can be typed it just stands in the field then, which raises OnChange.
   void SetText(const std::string& text);
 
   void Clear() override;
@@ -82,6 +82,8 @@ class ComboBox : public ListControl {
   /// A user drops the list down.
   void UserDropDown();
   std::function<void()> OnDropDown;
+  /// Another text that is no entry's stands in the field.
+  std::function<void()> OnChange;
   [[nodiscard]] std::string ShownText() const override { return text_; }
 
  private:

@@ -70,26 +70,20 @@ void Screen::SetFocus(Control& control) {
   }
 }
 
-// The page of the control that the focus comes from, or else the one in front; 0 when there are
-// none.
-int Screen::PageInFront(const Control* from) const {
-  if (from != nullptr && from->TabPage != 0) {
-    return from->TabPage;
-  }
-  for (const Control* control : controls_) {
-    if (const auto* tabs = dynamic_cast<const TabStrip*>(control)) {
-      return tabs->Tab() + 1;
+// The focus is never where it can't be seen.
+void Screen::TurnToPageOf(const Control& control) {
+  for (Control* candidate : controls_) {
+    auto* tabs = dynamic_cast<TabStrip*>(candidate);
+    if (tabs != nullptr && control.TabPage != 0 && tabs->Tab() != control.TabPage - 1) {
+      tabs->SetTab(control.TabPage - 1);
     }
   }
-  return 0;
 }
 
 template <typename Iterator>
 void Screen::FocusAfter(Iterator begin, Iterator end) {
-  const int page = PageInFront(focus_);
-  const auto stops = [page](const Control* control) {
-    return control->TakesFocus() && control->TabStop() && control->Usable() &&
-           (control->TabPage == 0 || control->TabPage == page);
+  const auto stops = [](const Control* control) {
+    return control->TakesFocus() && control->TabStop() && control->Usable();
   };
   const Iterator from = std::find(begin, end, focus_);
   Iterator next = from == end ? from : std::find_if(from + 1, end, stops);
@@ -99,7 +93,10 @@ void Screen::FocusAfter(Iterator begin, Iterator end) {
       return;
     }
   }
-  MoveFocus(**next);
+  Control& control = **next;
+  if (MoveFocus(control)) {
+    TurnToPageOf(control);
+  }
 }
 
 void Screen::FocusNext() { FocusAfter(controls_.begin(), controls_.end()); }

@@ -50,8 +50,8 @@ class Screen {
   bool MoveFocus(Control& control);
   /// Sets the focus by code: nobody is asked.
   void SetFocus(Control& control);
-  /// On to the next control where the Tab key stops, and from the last to the first. Controls on a
-  /// tab page that isn't in front are passed over.
+  /// On to the next control where the Tab key stops, and from the last to the first. The
+  /// tab page on which it lies comes to the front.
   void FocusNext();
   /// The same, backwards.
   void FocusPrevious();
@@ -99,7 +99,7 @@ class Screen {
   friend class Control;
   void Register(Control& control);
   void Forget(const Control& control);
-  [[nodiscard]] int PageInFront(const Control* from) const;
+  void TurnToPageOf(const Control& control);
   template <typename Iterator>
   void FocusAfter(Iterator begin, Iterator end);
   [[nodiscard]] bool PressButtonFor(int key) const;

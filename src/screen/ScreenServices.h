@@ -54,6 +54,8 @@ struct FileDialog {
   std::string filter;
   /// Where the dialog starts: a folder, or a file's path.
   std::string start;
+  /// A file that isn't there yet can be named.
+  bool newFile = false;
 };
 
 /// How the windows inside the main window are arranged; the numbers are the system's own.

@@ -4,9 +4,14 @@
 #include <utility>
 
 #include "basic/RuntimeError.h"
+#include "company/frmCheckList.h"
+#include "company/frmCompany.h"
 #include "payments/frmPayment.h"
 #include "payments/frmSelectAssessment.h"
 #include "payments/frmSelectDate.h"
+#include "people/frmContracts.h"
+#include "people/frmEmployees.h"
+#include "people/frmSubContractor.h"
 #include "screen/modForm.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
@@ -26,7 +31,13 @@ ScreenRegistry AllScreens() {
   registry.Add<frmSplash>("frmSplash");
   registry.Add<frmMain>("frmMain");
   registry.Add<frmAbout>("frmAbout");
+
+  registry.Add<frmCompany>("frmCompany");
+  registry.Add<frmCheckList>("frmCheckList");
   registry.Add<frmSelectAssessment>("frmSelectAssessment");
+  registry.Add<frmEmployees>("frmEmployees");
+  registry.Add<frmSubContractor>("frmSubContractor");
+  registry.Add<frmContracts>("frmContracts");
   return registry;
 }
 

@@ -50,5 +50,24 @@ TEST(NewCompany, NeverTakesAnothersPlace) {
   EXPECT_FALSE(files.Exists(other));
 }
 
+TEST(NewCompany, HasBothItsFilesOrNone) {
+  TestCompany company;
+  const std::string folder = company.Folder() + "/new";
+  const std::string file = folder + "/Data.mdb";
+  // What can't be written over stands where the configuration file belongs.
+  std::filesystem::create_directories(folder + "/LorvaneConfig.ini/full");
+  EXPECT_FALSE(MakeCompanyFiles(company.Context(), file));
+  EXPECT_TRUE(company.Services().NextBox().starts_with("\"Error\" \"75\\n'" + folder +
+                                                       "/LorvaneConfig.ini'"));
+  EXPECT_FALSE(DiskFiles().Exists(file));
+  EXPECT_EQ(company.GetSession().gConfigFile, company.ConfigFile());
+  EXPECT_EQ(company.GetSession().gDataConn->DataSource, company.DataFile());
+  std::filesystem::remove_all(folder + "/LorvaneConfig.ini");
+  EXPECT_TRUE(MakeCompanyFiles(company.Context(), file));
+  EXPECT_TRUE(OpenNewCompany(company.Context(), file));
+  EXPECT_EQ(company.Ini("Database", "File"), "Data.mdb");
+  EXPECT_EQ(company.First("SELECT Count(*) FROM tblCompany"), "0");
+}
+
 }  // namespace
 }  // namespace lorvane

@@ -30,6 +30,10 @@ class RecordingEngine : public Engine {
 
   [[nodiscard]] std::unique_ptr<EngineConnection> Open(const std::string& path,
                                                        const std::string& password) override;
+  [[nodiscard]] std::unique_ptr<EngineConnection> OpenToRead(const std::string& path,
+                                                             const std::string& password) override {
+    return Open(path, password);
+  }
   [[nodiscard]] std::unique_ptr<EngineConnection> Create(const std::string& path,
                                                          const std::string& password) override;
 

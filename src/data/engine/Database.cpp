@@ -1,5 +1,6 @@
 #include "data/engine/Database.h"
 
+#include <fmt/format.h>
 #include <sqlcipher/sqlite3.h>
 
 #include <utility>
@@ -19,14 +20,28 @@ StatementPointer Prepare(sqlite3* handle, const std::string& sql, int& code) {
   return StatementPointer(statement);
 }
 
+// The library's way to say that a file is fixed.
+std::string FixedName(const std::string& path) {
+  std::string name = "file://";
+  for (const char character : path) {
+    name += character == '%' || character == '?' || character == '#'
+                ? fmt::format("%{:02X}", static_cast<unsigned>(character))
+                : std::string(1, character);
+  }
+  return name + "?immutable=1";
+}
+
 }  // namespace
 
 void FinalizeStatement::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
-Database::Database(const std::string& path) : path_(path) {
-  const int code = sqlite3_open_v2(
-      path.c_str(), &handle_,
-      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_PRIVATECACHE, nullptr);
+Database::Database(const std::string& path, Access access) : path_(path) {
+  const bool fixed = access == Access::kReadFixed;
+  const int code =
+      sqlite3_open_v2(fixed ? FixedName(path).c_str() : path.c_str(), &handle_,
+                      (fixed ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI : SQLITE_OPEN_READWRITE) |
+                          SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_PRIVATECACHE,
+                      nullptr);
   if (code != SQLITE_OK) {
     const int extended = handle_ != nullptr ? sqlite3_extended_errcode(handle_) : code;
     sqlite3_close(handle_);

@@ -26,8 +26,13 @@ using StatementPointer = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 /// An open file and its prepared statements, in the data file's own language.
 class Database {
  public:
-  /// Opens the existing file; checks nothing but that.
-  explicit Database(const std::string& path);
+  enum class Access {
+    kReadWrite,  // read only when the file's owner allows no more
+    kReadFixed,  // to read a file that nobody changes meanwhile, in whatever folder
+  };
+
+  /// Opens the existing file; checks nothing but that. The path is absolute.
+  explicit Database(const std::string& path, Access access = Access::kReadWrite);
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
   ~Database();

@@ -92,6 +92,10 @@ class Engine {
   /// Raises a RuntimeError that names the file and what is wrong with it; never creates a file.
   [[nodiscard]] virtual std::unique_ptr<EngineConnection> Open(const std::string& path,
                                                                const std::string& password) = 0;
+  /// The same to read it only. Where the file or its folder is write-protected it is taken as it
+  /// stands: nobody changes it meanwhile.
+  [[nodiscard]] virtual std::unique_ptr<EngineConnection> OpenToRead(
+      const std::string& path, const std::string& password) = 0;
   /// Makes a new, empty file; protected unless the password is empty. Raises 58 when one is there.
   [[nodiscard]] virtual std::unique_ptr<EngineConnection> Create(const std::string& path,
                                                                  const std::string& password) = 0;

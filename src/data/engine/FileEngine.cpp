@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 #include <sqlcipher/sqlite3.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -74,8 +75,16 @@ void RequireReadable(Database& database, bool isProtected) {
   }
 }
 
+bool IsReadOnly(Database& database) { return sqlite3_db_readonly(database.Handle(), "main") != 0; }
+
+// Writing needs files beside the data file, so its folder counts as well.
+bool IsWriteProtected(const std::string& path) {
+  Database database(path);
+  return IsReadOnly(database) || access(fs::path(path).parent_path().c_str(), W_OK) != 0;
+}
+
 void SetUp(Database& database) {
-  if (sqlite3_db_readonly(database.Handle(), "main") != 0) {
+  if (IsReadOnly(database)) {
     FailFile(database.Path(), "can't be written. Is it or its folder write-protected?");
   }
   if (database.ReadText("PRAGMA journal_mode = WAL") != "wal") {
@@ -88,26 +97,44 @@ void SetUp(Database& database) {
 
 }  // namespace
 
+void FileEngine::Unlock(Database& database, const std::string& password) {
+  const std::string& path = database.Path();
+  const FileHeader header = ReadHeader(database);
+  if (header.size < kSmallestFile) {
+    FailFile(path, "is not a data file.");
+  }
+  if (password.empty() && !header.IsPlain()) {
+    FailFile(path, "is protected by a password or is not a data file.");
+  }
+  if (!password.empty()) {
+    if (header.IsPlain()) {
+      FailFile(path, "is not protected by a password and can't be opened with one.");
+    }
+    database.Unlock(keys_.KeyOf(header.bytes, password));
+  }
+  RequireReadable(database, !password.empty());
+}
+
 std::unique_ptr<EngineConnection> FileEngine::Open(const std::string& path,
                                                    const std::string& password) {
   const std::string absolute = AbsolutePath(path);
   RequireFile(absolute);
   auto database = std::make_unique<Database>(absolute);
-  const FileHeader header = ReadHeader(*database);
-  if (header.size < kSmallestFile) {
-    FailFile(absolute, "is not a data file.");
-  }
-  if (password.empty() && !header.IsPlain()) {
-    FailFile(absolute, "is protected by a password or is not a data file.");
-  }
-  if (!password.empty()) {
-    if (header.IsPlain()) {
-      FailFile(absolute, "is not protected by a password and can't be opened with one.");
-    }
-    database->Unlock(keys_.KeyOf(header.bytes, password));
-  }
-  RequireReadable(*database, !password.empty());
+  Unlock(*database, password);
   SetUp(*database);
+  return std::make_unique<FileConnection>(std::move(database));
+}
+
+std::unique_ptr<EngineConnection> FileEngine::OpenToRead(const std::string& path,
+                                                         const std::string& password) {
+  const std::string absolute = AbsolutePath(path);
+  RequireFile(absolute);
+  if (!IsWriteProtected(absolute)) {
+    return Open(path, password);
+  }
+  auto database = std::make_unique<Database>(absolute, Database::Access::kReadFixed);
+  Unlock(*database, password);
+  RegisterFunctions(*database);
   return std::make_unique<FileConnection>(std::move(database));
 }
 

@@ -93,7 +93,7 @@ bool Binding::OnDoubleClicked() {
 bool Binding::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::FocusIn: {
-      if (window_ == nullptr) {
+      if (window_ == nullptr || window_->IsFollowing()) {
         return false;
       }
       // Coming back to the window, the focus stands where it was.
@@ -120,7 +120,9 @@ bool Binding::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress: {
       const auto& pressed = *static_cast<QKeyEvent*>(event);
       const bool forward = pressed.key() == Qt::Key_Tab;
-      if (window_ != nullptr && (forward || pressed.key() == Qt::Key_Backtab)) {
+      // With Ctrl it turns the pages of a tab strip.
+      if (window_ != nullptr && !pressed.modifiers().testFlag(Qt::ControlModifier) &&
+          (forward || pressed.key() == Qt::Key_Backtab)) {
         window_->MoveByTab(control_, forward);
         return true;
       }

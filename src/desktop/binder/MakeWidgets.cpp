@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -15,6 +16,7 @@
 #include <QToolButton>
 #include <QTreeView>
 
+#include "basic/RuntimeError.h"
 #include "desktop/binder/ButtonBindings.h"
 #include "desktop/binder/Icons.h"
 #include "desktop/binder/ListBindings.h"
@@ -38,7 +40,11 @@ Widget* Bound(WindowBinder& window, ControlKind& control, Widget* widget) {
 }  // namespace
 
 QLineEdit* WindowBinder::Make(TextBox& control) {
-  return Bound<TextBinding>(*this, control, new QLineEdit(&window_));
+  return Bound<LineBinding>(*this, control, new QLineEdit(&window_));
+}
+
+QPlainTextEdit* WindowBinder::MakeLines(TextBox& control) {
+  return Bound<LinesBinding>(*this, control, new QPlainTextEdit(&window_));
 }
 
 QLabel* WindowBinder::Make(Label& control) {
@@ -109,6 +115,34 @@ QProgressBar* WindowBinder::Make(ProgressBar& control) {
 
 QTabWidget* WindowBinder::Make(TabStrip& control) {
   return Bound<TabBinding>(*this, control, new QTabWidget(&window_));
+}
+
+QWidget* WindowBinder::MakeField(Control& control) {
+  if (auto* text = dynamic_cast<TextBox*>(&control)) {
+    return text->MultiLine ? static_cast<QWidget*>(MakeLines(*text)) : Make(*text);
+  }
+  if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
+    return Make(*combo);
+  }
+  if (auto* list = dynamic_cast<ListBox*>(&control)) {
+    return Make(*list);
+  }
+  if (auto* picker = dynamic_cast<DatePicker*>(&control)) {
+    return Make(*picker);
+  }
+  if (auto* check = dynamic_cast<CheckBox*>(&control)) {
+    return Make(*check);
+  }
+  if (auto* option = dynamic_cast<OptionButton*>(&control)) {
+    return Make(*option);
+  }
+  if (auto* command = dynamic_cast<Command*>(&control)) {
+    return Make(*command);
+  }
+  if (auto* label = dynamic_cast<Label*>(&control)) {
+    return Make(*label);
+  }
+  throw RuntimeError(error_number::kInternalError, control.Name() + " is no field.");
 }
 
 }  // namespace lorvane

@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QSet>
 #include <QVariant>
+#include <algorithm>
 
 #include "desktop/binder/QtText.h"
 
@@ -41,7 +42,7 @@ QString Marked(QString caption, QChar letter) {
 QString CaptionFor(const QWidget& widget, std::string_view caption) {
   const QString text = ToQt(caption);
   const QChar given = widget.property(kGiven).toChar();
-  return given.isNull() || !OwnMnemonic(text).isNull() ? text : Marked(text, given);
+  return given.isNull() ? text : Marked(QString(text).remove(QLatin1Char('&')), given);
 }
 
 // Letters that begin a word come first, then all others.
@@ -95,15 +96,22 @@ void AssignMnemonics(QWidget& window) {
       used.insert(OwnMnemonic(menu->text()));
     }
   }
-  const QList<QWidget*> widgets = window.findChildren<QWidget*>();
-  for (const QWidget* widget : widgets) {
-    used.insert(OwnMnemonic(CaptionOf(*widget)));
-  }
-  for (QWidget* widget : widgets) {
+  QList<QWidget*> without;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
     const QString caption = CaptionOf(*widget);
-    if (caption.isEmpty() || !OwnMnemonic(caption).isNull()) {
-      continue;
+    const QChar own = OwnMnemonic(caption);
+    if (!own.isNull() && !used.contains(own)) {
+      used.insert(own);
+    } else if (!caption.isEmpty()) {
+      without.append(widget);
     }
+  }
+  // There may be more of them than letters: buttons come first.
+  std::stable_partition(without.begin(), without.end(), [](const QWidget* widget) {
+    return qobject_cast<const QAbstractButton*>(widget) != nullptr;
+  });
+  for (QWidget* widget : without) {
+    const QString caption = CaptionOf(*widget).remove(QLatin1Char('&'));
     for (const QChar letter : Candidates(caption)) {
       if (!used.contains(letter)) {
         used.insert(letter);

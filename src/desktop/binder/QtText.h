@@ -11,8 +11,4 @@ namespace lorvane {
 /// A widget's text for a screen.
 [[nodiscard]] std::string FromQt(const QString& text);
 
-/// A place in characters, as screens count, and in the toolkit's own units of a text.
-[[nodiscard]] int UnitsBefore(const QString& text, std::size_t characters);
-[[nodiscard]] std::size_t CharactersBefore(const QString& text, qsizetype units);
-
 }  // namespace lorvane

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QToolButton>
 #include <algorithm>
 
@@ -40,21 +41,36 @@ WindowBinder::~WindowBinder() {
   }
 }
 
-void WindowBinder::MakeMenus(QMenuBar& bar) {
+std::vector<MenuEntry*> WindowBinder::Menus(bool popUps) const {
+  std::vector<MenuEntry*> menus;
   for (Control* control : screen_.Controls()) {
     auto* menu = dynamic_cast<MenuEntry*>(control);
-    if (menu == nullptr || menu->Parent() != nullptr) {
-      continue;
+    if (menu != nullptr && menu->Parent() == nullptr && menu->IsPopUp() == popUps) {
+      menus.push_back(menu);
     }
-    auto* made = new QMenu(&window_);
-    made->setObjectName(ToQt(menu->Name()));
-    FillMenu(*made, *menu);
-    if (menu->IsPopUp()) {
-      popUps_.push_back(made);
-    } else {
-      bar.addMenu(made);
-      menus_.push_back(new MenuBinding(*this, *menu, *made->menuAction()));
-    }
+  }
+  return menus;
+}
+
+QMenu* WindowBinder::MakeMenu(const MenuEntry& menu) {
+  auto* made = new QMenu(&window_);
+  made->setObjectName(ToQt(menu.Name()));
+  FillMenu(*made, menu);
+  return made;
+}
+
+void WindowBinder::MakeMenus(QMenuBar& bar) {
+  for (MenuEntry* menu : Menus(false)) {
+    QMenu* made = MakeMenu(*menu);
+    bar.addMenu(made);
+    menus_.push_back(new MenuBinding(*this, *menu, *made->menuAction()));
+  }
+  MakePopUps();
+}
+
+void WindowBinder::MakePopUps() {
+  for (const MenuEntry* menu : Menus(true)) {
+    popUps_.push_back(MakeMenu(*menu));
   }
 }
 
@@ -110,7 +126,7 @@ void WindowBinder::Finish() {
 }
 
 void WindowBinder::FocusFirst() {
-  if (screen_.Focus() != nullptr) {
+  if (screen_.Focus() != nullptr && screen_.Focus()->Usable()) {
     FollowFocus();
     return;
   }
@@ -128,7 +144,8 @@ void WindowBinder::Flush() {
   for (MenuBinding* menu : menus_) {
     menu->Flush();
   }
-  // A binding may go with the widget of another.
+  // A widget that is disabled hands the focus on by itself: that is none of the user's doing.
+  following_ = true;
   for (std::size_t i = 0; i < bindings_.size(); ++i) {
     bindings_[i]->Flush();
   }
@@ -136,6 +153,7 @@ void WindowBinder::Flush() {
     OnRefresh();
   }
   FollowFocus();
+  following_ = false;
   if (screen_.IsClosed() && !std::exchange(closedTold_, true) && OnClosed) {
     OnClosed();
   }
@@ -179,11 +197,30 @@ void WindowBinder::MoveByTab(Control& from, bool forward) {
   });
 }
 
+// Ctrl+Tab and Ctrl+Page Down turn to the next page, wherever the focus is.
+bool WindowBinder::TurnPage(int key) {
+  auto* tabs = window_.findChild<QTabWidget*>();
+  const bool forward = key == Qt::Key_Tab || key == Qt::Key_PageDown;
+  if (tabs == nullptr || (!forward && key != Qt::Key_Backtab && key != Qt::Key_PageUp)) {
+    return false;
+  }
+  tabs->setCurrentIndex((tabs->currentIndex() + (forward ? 1 : tabs->count() - 1)) % tabs->count());
+  return true;
+}
+
 bool WindowBinder::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress: {
+      const auto& pressed = *static_cast<QKeyEvent*>(event);
+      if (pressed.modifiers().testFlag(Qt::ControlModifier) && TurnPage(pressed.key())) {
+        return true;
+      }
+      if (pressed.key() == Qt::Key_Tab && window_.focusWidget() == nullptr) {
+        FocusFirst();
+        return true;
+      }
       // Nothing of the window took the key. The toolkit's own Enter and Escape are no part of it.
-      const int key = ScreenKey(*static_cast<QKeyEvent*>(event));
+      const int key = ScreenKey(pressed);
       return key == key_code::kEnter || key == key_code::kEscape;
     }
     case QEvent::Close:

@@ -17,6 +17,7 @@ class QLineEdit;
 class QListWidget;
 class QMenu;
 class QMenuBar;
+class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
 class QRadioButton;
@@ -61,6 +62,7 @@ class WindowBinder : public QObject {
   // The widget of a control. It is named as the control is, and belongs to the layout that it is
   // put into.
   QLineEdit* Make(TextBox& control);
+  QPlainTextEdit* MakeLines(TextBox& control);
   QLabel* Make(Label& control);
   QPushButton* Make(Command& control);
   QCheckBox* Make(CheckBox& control);
@@ -73,14 +75,18 @@ class WindowBinder : public QObject {
   QCalendarWidget* Make(Calendar& control);
   QProgressBar* Make(ProgressBar& control);
   QTabWidget* Make(TabStrip& control);
+  /// The widget of a control of a form, whichever kind it is. Raises 51 for a kind that stands in
+  /// no form.
+  QWidget* MakeField(Control& control);
   /// A button of a tool bar, with its picture from the icon set.
   QToolButton* MakeTool(Command& control, const char* icon);
   /// A label that names a field: the field's accessible name, and its mnemonic leads there.
   QLabel* MakeNaming(Label& control, QWidget& field);
 
-  /// Fills a menu bar with the menus that stand on the screen's bar, and gets the screen's pop-up
-  /// menus ready.
+  /// Fills a menu bar with the menus that stand on the screen's bar, and makes the pop-up menus.
   void MakeMenus(QMenuBar& bar);
+  /// Makes the pop-up menus of a screen that has no menu bar.
+  void MakePopUps();
   /// The action of a menu entry; null when it has none.
   [[nodiscard]] QAction* ActionOf(const MenuEntry& entry) const;
 
@@ -93,6 +99,8 @@ class WindowBinder : public QObject {
   void Flush();
   /// The Tab key on a control, or Shift with it.
   void MoveByTab(Control& from, bool forward);
+  /// Whether the window is being brought up to date.
+  [[nodiscard]] bool IsFollowing() const { return following_; }
   /// Asks the screen to close.
   void CloseScreen();
 
@@ -110,7 +118,10 @@ class WindowBinder : public QObject {
  private:
   [[nodiscard]] Binding* BindingOf(const Control* control) const;
   void FollowFocus();
+  bool TurnPage(int key);
   void ShowPopUp(Control& menu);
+  [[nodiscard]] std::vector<MenuEntry*> Menus(bool popUps) const;
+  QMenu* MakeMenu(const MenuEntry& menu);
   void FillMenu(QMenu& menu, const MenuEntry& parent);
 
   Screen& screen_;
@@ -119,6 +130,7 @@ class WindowBinder : public QObject {
   std::vector<Binding*> bindings_;
   std::vector<MenuBinding*> menus_;
   std::vector<QMenu*> popUps_;
+  bool following_ = false;
   bool closedTold_ = false;
 };
 

@@ -2,9 +2,17 @@
 
 #include "basic/RuntimeError.h"
 #include "desktop/windows/AboutWindow.h"
+#include "desktop/windows/AddContractWindow.h"
+#include "desktop/windows/BirthDateWindow.h"
+#include "desktop/windows/CheckListWindow.h"
+#include "desktop/windows/CompanyWindow.h"
+#include "desktop/windows/ContractsWindow.h"
+#include "desktop/windows/EmployeesWindow.h"
 #include "desktop/windows/PaymentListWindow.h"
 #include "desktop/windows/PaymentWindow.h"
 #include "desktop/windows/SelectDateWindow.h"
+#include "desktop/windows/SicWindow.h"
+#include "desktop/windows/SubContractorWindow.h"
 #include "screen/Screen.h"
 
 namespace lorvane {
@@ -22,6 +30,14 @@ std::unique_ptr<ScreenDialog> WindowRegistry::Make(Screen& screen, ScreenGate& g
 
 WindowRegistry AllWindows() {
   WindowRegistry windows;
+  windows.Add<frmCheckList, CheckListWindow>("frmCheckList");
+  windows.Add<frmCompany, CompanyWindow>("frmCompany");
+  windows.Add<frmSIC, SicWindow>("frmSIC");
+  windows.Add<frmEmployees, EmployeesWindow>("frmEmployees");
+  windows.Add<frmSubContractor, SubContractorWindow>("frmSubContractor");
+  windows.Add<frmBirthDate, BirthDateWindow>("frmBirthDate");
+  windows.Add<frmContracts, ContractsWindow>("frmContracts");
+  windows.Add<frmAddContract, AddContractWindow>("frmAddContract");
   windows.Add<frmAbout, AboutWindow>("frmAbout");
   windows.Add<frmSelectAssessment, PaymentListWindow>("frmSelectAssessment");
   windows.Add<frmPayment, PaymentWindow>("frmPayment");

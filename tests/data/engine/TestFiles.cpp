@@ -255,6 +255,29 @@ TEST_F(Files, RefusesAFileThatCantBeWritten) {
             "The file " + path_ + " can't be written. Is it or its folder write-protected?");
 }
 
+TEST_F(Files, AWriteProtectedFileCanStillBeRead) {
+  connection_->InsertRow("tblEmployees", {{"LastName", "Pike"}});
+  connection_.reset();
+  const std::string odd = folder_ + "/100%41 #1?.mdb";
+  std::filesystem::copy_file(path_, odd);
+  FaultyVfs disk;
+  disk.ProtectFiles(true);
+  for (const std::string& path : {path_, odd}) {
+    connection_ = engine_.OpenToRead(path, kPassword);
+    EXPECT_EQ(Rows("SELECT LastName FROM tblEmployees WHERE LastName = 'pike'"), "Pike");
+    EXPECT_EQ(Run("DELETE FROM tblEmployees"), "80004005");
+    connection_.reset();
+  }
+  EXPECT_EQ(Try([&] { return engine_.OpenToRead(path_, "wrong") ? "opened" : ""; }), "80004005");
+  disk.Heal();
+  // A file that can be written is read with what another connection has just written to it.
+  connection_ = engine_.Open(path_, kPassword);
+  connection_->InsertRow("tblEmployees", {{"LastName", "Perch"}});
+  const std::unique_ptr<EngineConnection> reader = engine_.OpenToRead(path_, kPassword);
+  EXPECT_EQ(Rows(*reader, "SELECT Count(*) FROM tblEmployees"), "2");
+  connection_.reset();
+}
+
 TEST_F(Files, FindsDamageInsideAFile) {
   EXPECT_TRUE(connection_->CheckIntegrity().empty());
   for (int i = 0; i < 200; ++i) {

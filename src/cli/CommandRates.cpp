@@ -1,0 +1,140 @@
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <iostream>
+#include <utility>
+
+#include "basic/Number.h"
+#include "basic/Text.h"
+#include "cli/Commands.h"
+#include "company/RateSheet.h"
+#include "company/RateTables.h"
+#include "import/CsvFile.h"
+#include "reports/ReportDocument.h"
+
+namespace lorvane {
+namespace {
+
+constexpr int kFirstYear = 1900;
+constexpr int kLastYear = 2999;
+
+std::vector<SheetRow> ReadCsv(const std::string& path) {
+  const CsvFile file = CsvFile::Read(path);
+  std::vector<SheetRow> rows;
+  for (const CsvRow& row : file.Rows()) {
+    rows.push_back({row.line, row.cells});
+  }
+  return rows;
+}
+
+struct SheetKind {
+  const char* ending;
+  SheetReader read;
+};
+
+constexpr std::array kSheetKinds{SheetKind{".csv", ReadCsv}, SheetKind{".tsv", ReadCsv},
+                                 SheetKind{".txt", ReadCsv}};
+
+SheetReader ReaderOf(const std::string& path) {
+  const std::string ending = ToLower(std::filesystem::path(path).extension().string());
+  const auto* const kind =
+      std::find_if(kSheetKinds.begin(), kSheetKinds.end(),
+                   [&](const SheetKind& known) { return known.ending == ending; });
+  if (kind == kSheetKinds.end()) {
+    throw CommandFailure("'" + path +
+                         "' is no CSV file. Please save the sheet as CSV; its name then ends in "
+                         ".csv.");
+  }
+  return kind->read;
+}
+
+void CheckYear(int year) {
+  if (year < kFirstYear || year > kLastYear) {
+    throw CommandFailure(std::to_string(year) + " is no year of rates.");
+  }
+}
+
+std::vector<PublishedRate> RatesOfSheet(const std::string& path) {
+  RateSheet sheet = ReadRateSheet(ReaderOf(path)(path));
+  const std::string name = GetNamePart(path);
+  for (const std::string& fault : sheet.faults) {
+    std::cerr << name << ", " << fault << '\n';
+  }
+  if (!sheet.faults.empty()) {
+    throw CommandFailure("'" + path +
+                         "' can't be brought in: " + std::to_string(sheet.faults.size()) +
+                         " of its cells are wrong. Nothing was changed.");
+  }
+  if (sheet.rates.empty()) {
+    throw CommandFailure("'" + path + "' holds no rates; a row is \"code,description,rate\".");
+  }
+  return std::move(sheet.rates);
+}
+
+std::string Described(const PublishedRate& rate) {
+  return rate.description + ", " + ShortestText(rate.rate);
+}
+
+void PrintChanges(const RateChanges& changes) {
+  for (const PublishedRate& rate : changes.added) {
+    std::cout << "added    " << rate.code << "  " << Described(rate) << '\n';
+  }
+  for (const auto& [before, after] : changes.changed) {
+    std::cout << "changed  " << after.code << "  " << Described(before) << " -> "
+              << Described(after) << '\n';
+  }
+  for (const PublishedRate& rate : changes.removed) {
+    std::cout << "removed  " << rate.code << "  " << Described(rate) << '\n';
+  }
+  std::cout << changes.added.size() << " added, " << changes.changed.size() << " changed, "
+            << changes.removed.size() << " removed, " << changes.unchanged << " unchanged."
+            << std::endl;
+}
+
+}  // namespace
+
+int RunRatesList(const CommandOptions& options) {
+  CommandProgram program(options);
+  RateTables tables(program.GetSession());
+  for (const int year : tables.Years()) {
+    std::cout << year << ": " << tables.Read(std::to_string(year)).size() << " rates\n";
+  }
+  return 0;
+}
+
+int RunRatesExport(const CommandOptions& options, int year) {
+  CommandProgram program(options);
+  RateTables tables(program.GetSession());
+  if (!tables.Has(year)) {
+    throw CommandFailure("There are no rates for " + std::to_string(year) + ".");
+  }
+  std::cout << CsvLine({"SIC", "Description", "Rate"}) << '\n';
+  for (const PublishedRate& rate : tables.Read(std::to_string(year))) {
+    std::cout << CsvLine({rate.code, rate.description, ShortestText(rate.rate)}) << '\n';
+  }
+  return 0;
+}
+
+int RunRatesImport(const CommandOptions& options, int year, const std::string& path) {
+  CheckYear(year);
+  const std::vector<PublishedRate> rates = RatesOfSheet(path);
+  CommandProgram program(options);
+  RateTables tables(program.GetSession());
+  const std::string yearText = std::to_string(year);
+  const RateChanges changes =
+      CompareRates(tables.Has(year) ? tables.Read(yearText) : std::vector<PublishedRate>(), rates);
+  PrintChanges(changes);
+  if (changes.None()) {
+    return 0;
+  }
+  if (program.Services().MsgBox(
+          "The rates for " + yearText + " will be as in the sheet.\r\n\r\nDo you wish to continue?",
+          box::kYesNo | box::kQuestion, "Rates") != answer::kYes) {
+    throw CommandFailure("Nothing was changed. --yes brings the rates in without asking.");
+  }
+  tables.Replace(year, rates);
+  std::cout << "Brought " << rates.size() << " rates in for " << yearText << ".\n";
+  return 0;
+}
+
+}  // namespace lorvane

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "desktop/binder/WindowBinder.h"
+#include "people/PeopleScreen.h"
+
+class QGroupBox;
+
+namespace lorvane {
+
+// What the windows of employees and of sub-contractors share.
+
+/// The tool bar.
+[[nodiscard]] QWidget* PeopleTools(WindowBinder& binder, PeopleToolBar& toolBar);
+/// The list of names.
+[[nodiscard]] QWidget* PeopleNames(WindowBinder& binder, ListBox& list);
+/// The industries that a person works in: one box for each of the company's.
+[[nodiscard]] QGroupBox* PeopleIndustries(WindowBinder& binder, IndustryBoxes& boxes);
+
+}  // namespace lorvane
