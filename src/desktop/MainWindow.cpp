@@ -140,7 +140,7 @@ void MainWindow::Adopt(ScreenDialog& window) {
   QMdiSubWindow* place = ground_->addSubWindow(&window);
   place->setAttribute(Qt::WA_DeleteOnClose, false);
   place->setWindowIcon(windowIcon());
-  window.Open();
+  window.Present();
   place->show();
 }
 

@@ -106,7 +106,7 @@ void QtServices::RunModal(Screen& screen) {
   ScreenDialog& window = *open_.at(&screen);
   QEventLoop loop;
   window.Binder().OnClosed = [&] { loop.quit(); };
-  window.Open();
+  window.Present();
   gate_.RunLoop(loop);
   window.hide();
 }

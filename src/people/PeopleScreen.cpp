@@ -145,6 +145,7 @@ void PeopleScreen::RefreshList(Selection selection) {
     do {
       ListAddItem(list, Key(), EntryText());
     } while (TheRecord().MoveNext());
+    RemarkOnPeople();
   } else {
     TellInfo();
   }
@@ -189,6 +190,9 @@ bool PeopleScreen::Save() {
   CopyFields();
   const bool saved = adding_ ? SaveNew() : SaveChanges();
   context_.services.SetPointer(pointer::kDefault);
+  if (saved) {
+    RemarkOnPeople();
+  }
   return saved;
 }
 

@@ -88,6 +88,8 @@ class PeopleScreen : public Screen {
   virtual bool ShowRecord() = 0;
   /// Fills the fields that show a record after it was saved, or after an edit was undone.
   virtual void ShowSaved() = 0;
+  /// The list was read, or one of its people saved.
+  virtual void RemarkOnPeople() {}
   /// An entry was selected, and its record found or not.
   virtual void AfterSelection() {}
   /// Empties the fields for a new person.

@@ -140,10 +140,10 @@ void frmEmployees::ShowSaved() {
 }
 
 void frmEmployees::ClearFields() {
-  // The masked field comes first: its text goes over into txtSin.
+  ClearTexts(names_);
+  // Emptied of a number that was typed, the masked field's underscores go over into txtSin.
   mtxtSin.SetText(mtxtSin.EmptyText());
   ShowSinField(mtxtSin, txtSin);
-  ClearTexts(names_);
   ClearTexts(details_);
   ClearTexts(phones_);
   txtMaxContrib.SetText(kNewMaxContrib);

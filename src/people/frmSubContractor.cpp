@@ -9,11 +9,13 @@
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
 #include "company/cCompany.h"
+#include "people/ClearanceRemarks.h"
 #include "people/ContractTerms.h"
 #include "people/NoDate.h"
 #include "people/cAssessable.h"
 #include "people/frmBirthDate.h"
 #include "screen/ScreenServices.h"
+#include "screen/Session.h"
 #include "screen/modForm.h"
 #include "screen/modListBox.h"
 
@@ -115,6 +117,10 @@ void frmSubContractor::LoadChoices() {
     cboProvinces.Add(province);
   }
   LoadContracts();
+}
+
+void frmSubContractor::RemarkOnPeople() {
+  RemarkOnClearances(list, *context_.session.gDataConn, context_.services.Now());
 }
 
 void frmSubContractor::LoadContracts() {

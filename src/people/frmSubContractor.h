@@ -56,6 +56,7 @@ class frmSubContractor : public PeopleScreenOf<SubContractorKind> {
   [[nodiscard]] std::string EntryText() const override { return record_.Name; }
   [[nodiscard]] std::string AddedEntryText() const override { return record_.Name; }
   void LoadChoices() override;
+  void RemarkOnPeople() override;
   bool ShowRecord() override;
   void ShowSaved() override;
   void ClearFields() override;

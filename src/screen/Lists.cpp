@@ -33,8 +33,16 @@ void ListControl::SetEntryText(int index, std::string text) {
   Changed();
 }
 
+void ListControl::SetRemark(int index, std::string remark, Urgency urgency) {
+  CheckIndex(index);
+  ListEntry& entry = entries_[static_cast<std::size_t>(index)];
+  entry.remark = std::move(remark);
+  entry.urgency = urgency;
+  Changed();
+}
+
 void ListControl::Add(std::string text, std::int32_t itemData) {
-  entries_.push_back({std::move(text), itemData});
+  entries_.push_back({.text = std::move(text), .itemData = itemData});
   Changed();
 }
 

@@ -9,10 +9,16 @@
 
 namespace lorvane {
 
-/// One entry of a list, with the number that a screen attaches to it.
+/// What a remark on an entry calls for.
+enum class Urgency { kNone, kSoon, kOverdue };
+
+/// One entry of a list, with the number that a screen attaches to it, and a remark that is shown
+/// behind its text and is no part of it.
 struct ListEntry {
   std::string text;
   std::int32_t itemData = 0;
+  std::string remark = {};
+  Urgency urgency = Urgency::kNone;
 };
 
 /// What a list box and a drop-down list share: entries, of which at most one is selected. Selecting
@@ -27,6 +33,8 @@ class ListControl : public Control {
   [[nodiscard]] const std::string& EntryText(int index) const;
   [[nodiscard]] std::int32_t ItemData(int index) const;
   void SetEntryText(int index, std::string text);
+  /// An empty remark takes it away.
+  void SetRemark(int index, std::string remark, Urgency urgency);
 
   virtual void Add(std::string text, std::int32_t itemData = 0);
   virtual void Remove(int index);

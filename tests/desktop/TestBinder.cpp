@@ -63,7 +63,7 @@ class SmallWindow : public ScreenDialog {
 class Binder : public testing::Test {
  protected:
   Binder() {
-    window_.Open();
+    window_.Present();
     window_.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
   }

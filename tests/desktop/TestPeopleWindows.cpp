@@ -23,6 +23,13 @@ TEST(PeopleWindows, AnEmployeeIsAddedByKeyboard) {
     auto& pages = Part<QTabWidget>(window, "sstEmployees");
     auto& names = Part<QListWidget>(window, "lstEmployees");
     const int before = names.count();
+    QTest::keySequence(&window, QKeySequence::Find);
+    QTest::keyClicks(&Part<QLineEdit>(window, "namesFilter"), "mac");
+    for (int i = 0; i < before; ++i) {
+      EXPECT_EQ(names.isRowHidden(i), !names.item(i)->text().contains("mac", Qt::CaseInsensitive));
+    }
+    Part<QLineEdit>(window, "namesFilter").clear();
+    EXPECT_FALSE(names.isRowHidden(0));
     QTest::keyClick(&Focused(window), Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(pages.currentIndex(), 1);
     Part<QAbstractButton>(window, "cmdAdd").click();

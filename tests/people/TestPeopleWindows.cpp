@@ -138,6 +138,32 @@ TEST_F(SubContractorWindow, AsksForTheIndustryBeforeTheContract) {
   EXPECT_FALSE(window_->IsClosed());
 }
 
+// The clock stands at 5 January 2026.
+TEST_F(SubContractorWindow, RemarksOnClearanceLettersThatExpire) {
+  const struct {
+    const char* type;
+    const char* expiry;
+    const char* remark;
+    Urgency urgency;
+  } letters[] = {
+      {"Clearance Letter Supplied", "#1/4/2026#", "expired 1/4/2026", Urgency::kOverdue},
+      {"Clearance Letter Supplied", "#1/5/2026#", "expires 1/5/2026", Urgency::kSoon},
+      {"Clearance Letter Supplied", "#2/4/2026#", "expires 2/4/2026", Urgency::kSoon},
+      {"Clearance Letter Supplied", "#2/5/2026#", "", Urgency::kNone},
+      {"Clearance Letter Supplied", "#1/1/1899#", "", Urgency::kNone},
+      {"Labour Only", "#1/4/2026#", "", Urgency::kNone},
+  };
+  for (const auto& letter : letters) {
+    SCOPED_TRACE(std::string(letter.type) + letter.expiry);
+    company_.Execute(std::string("UPDATE tblSubContract SET ContractType = '") + letter.type +
+                     "', Expiry = " + letter.expiry + " WHERE SubContractId = " +
+                     std::to_string(window_->list.ItemData(0)));
+    window_->toolBar.cmdTbrRefresh.UserClick();
+    EXPECT_EQ(window_->list.Entries()[0].remark, letter.remark);
+    EXPECT_EQ(window_->list.Entries()[0].urgency, letter.urgency);
+  }
+}
+
 using EmployeeWindow = PeopleWindow<frmEmployees>;
 
 TEST_F(EmployeeWindow, SwapsTheTwoFieldsOfTheNumber) {

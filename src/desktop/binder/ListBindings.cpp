@@ -1,5 +1,6 @@
 #include "desktop/binder/ListBindings.h"
 
+#include <QBrush>
 #include <QEvent>
 #include <QItemSelectionModel>
 #include <QLineEdit>
@@ -9,28 +10,52 @@
 namespace lorvane {
 namespace {
 
-// Makes the widget's entries those of the control, touching only what differs.
-template <typename Widget>
-void ShowEntries(const ListControl& control, Widget& widget) {
-  while (widget.count() > control.Count()) {
-    if constexpr (std::is_same_v<Widget, QListWidget>) {
-      delete widget.takeItem(widget.count() - 1);
-    } else {
-      widget.removeItem(widget.count() - 1);
-    }
+QString EntryTextOf(const ListControl& control, int index) {
+  const ListEntry& entry = control.Entries()[static_cast<std::size_t>(index)];
+  return ToQt(entry.remark.empty() ? entry.text : entry.text + " (" + entry.remark + ")");
+}
+
+// Strong enough to be read on a light ground and on a dark one.
+QBrush ColourOf(const ListControl& control, int index) {
+  switch (control.Entries()[static_cast<std::size_t>(index)].urgency) {
+    case Urgency::kOverdue:
+      return QColor(0xD0, 0x3A, 0x2E);
+    case Urgency::kSoon:
+      return QColor(0xB0, 0x74, 0x00);
+    case Urgency::kNone:
+      break;
+  }
+  return {};
+}
+
+void ShowEntries(const ListControl& control, QListWidget& list) {
+  while (list.count() > control.Count()) {
+    delete list.takeItem(list.count() - 1);
   }
   for (int i = 0; i < control.Count(); ++i) {
-    const QString text = ToQt(control.EntryText(i));
-    if (i >= widget.count()) {
-      widget.addItem(text);
-      continue;
+    const QString text = EntryTextOf(control, i);
+    if (i >= list.count()) {
+      list.addItem(text);
+    } else if (list.item(i)->text() != text) {
+      list.item(i)->setText(text);
     }
-    if constexpr (std::is_same_v<Widget, QListWidget>) {
-      if (widget.item(i)->text() != text) {
-        widget.item(i)->setText(text);
-      }
-    } else if (widget.itemText(i) != text) {
-      widget.setItemText(i, text);
+    const QBrush colour = ColourOf(control, i);
+    if (list.item(i)->foreground() != colour) {
+      list.item(i)->setForeground(colour);
+    }
+  }
+}
+
+void ShowEntries(const ListControl& control, QComboBox& combo) {
+  while (combo.count() > control.Count()) {
+    combo.removeItem(combo.count() - 1);
+  }
+  for (int i = 0; i < control.Count(); ++i) {
+    const QString text = EntryTextOf(control, i);
+    if (i >= combo.count()) {
+      combo.addItem(text);
+    } else if (combo.itemText(i) != text) {
+      combo.setItemText(i, text);
     }
   }
 }

@@ -46,7 +46,7 @@ void ScreenDialog::TakeSize() {
   binder_.Model().Place.height = height();
 }
 
-void ScreenDialog::Open() {
+void ScreenDialog::Present() {
   Screen& screen = binder_.Model();
   // Where the screen put itself, measured by what its window was before there were texts in it.
   const Screen::Geometry place = screen.Place;

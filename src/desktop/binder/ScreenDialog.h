@@ -18,7 +18,7 @@ class ScreenDialog : public QDialog {
   /// To be called when the subclass has laid everything out.
   void Complete();
   /// Shows the window, in the middle of its parent or where the screen put it.
-  void Open();
+  void Present();
 
  protected:
   /// A strip of tool buttons behind the window's edge.

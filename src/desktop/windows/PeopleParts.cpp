@@ -3,10 +3,14 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
+
+#include "desktop/binder/Icons.h"
 
 namespace lorvane {
 
@@ -37,12 +41,40 @@ QWidget* PeopleTools(WindowBinder& binder, PeopleToolBar& toolBar) {
 }
 
 QWidget* PeopleNames(WindowBinder& binder, ListBox& list) {
-  constexpr int kWidth = 32;
+  constexpr int kWidth = 34;
   QListWidget* names = binder.Make(list);
   names->setUniformItemSizes(true);
   names->setAccessibleName(QWidget::tr("Names"));
-  names->setFixedWidth(kWidth * names->fontMetrics().averageCharWidth());
-  return names;
+  auto* filter = new QLineEdit(&binder.Window());
+  filter->setObjectName(QStringLiteral("namesFilter"));
+  filter->setPlaceholderText(QWidget::tr("Show names with ..."));
+  filter->setAccessibleName(filter->placeholderText());
+  filter->setToolTip(QWidget::tr("Ctrl+F"));
+  filter->setClearButtonEnabled(true);
+  filter->addAction(IconOf("search"), QLineEdit::LeadingPosition);
+  const auto apply = [filter, names] {
+    const QString wanted = filter->text().trimmed();
+    for (int i = 0; i < names->count(); ++i) {
+      names->setRowHidden(i, !names->item(i)->text().contains(wanted, Qt::CaseInsensitive));
+    }
+  };
+  QObject::connect(filter, &QLineEdit::textChanged, names, apply);
+  // Entries that come or change later are shown or not like the others.
+  QObject::connect(names->model(), &QAbstractItemModel::dataChanged, names, [filter, apply] {
+    if (!filter->text().isEmpty()) {
+      apply();
+    }
+  });
+  auto* find = new QShortcut(QKeySequence(QKeySequence::Find), &binder.Window());
+  QObject::connect(find, &QShortcut::activated, filter, qOverload<>(&QWidget::setFocus));
+
+  auto* column = new QWidget(&binder.Window());
+  column->setFixedWidth(kWidth * names->fontMetrics().averageCharWidth());
+  auto* layout = new QVBoxLayout(column);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(filter);
+  layout->addWidget(names, 1);
+  return column;
 }
 
 QGroupBox* PeopleIndustries(WindowBinder& binder, IndustryBoxes& boxes) {

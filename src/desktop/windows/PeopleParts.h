@@ -11,7 +11,7 @@ namespace lorvane {
 
 /// The tool bar.
 [[nodiscard]] QWidget* PeopleTools(WindowBinder& binder, PeopleToolBar& toolBar);
-/// The list of names.
+/// The list of names, and a field above it that leaves the names with what is typed.
 [[nodiscard]] QWidget* PeopleNames(WindowBinder& binder, ListBox& list);
 /// The industries that a person works in: one box for each of the company's.
 [[nodiscard]] QGroupBox* PeopleIndustries(WindowBinder& binder, IndustryBoxes& boxes);

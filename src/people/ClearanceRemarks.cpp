@@ -1,0 +1,54 @@
+#include "people/ClearanceRemarks.h"
+
+#include <map>
+#include <optional>
+
+#include "basic/RuntimeError.h"
+#include "data/modDataAccess.h"
+#include "people/ContractTerms.h"
+#include "people/NoDate.h"
+
+namespace lorvane {
+namespace {
+
+constexpr int kSoonInDays = 30;
+
+std::map<std::int32_t, DateTime> ReadExpiries(DataConnection& connection) {
+  std::map<std::int32_t, DateTime> expiries;
+  const ResultTable table = connection.Connection().Query(
+      "SELECT SubContractId, ContractType, Expiry FROM tblSubContract WHERE Expiry IS NOT NULL");
+  for (const std::vector<Value>& row : table.rows) {
+    const ContractTerms* terms = FindContractTerms(NullToText(row[1]));
+    const std::string stored = NullToText(row[2]);
+    const std::optional<DateTime> expiry = ParseDate(stored);
+    if (terms != nullptr && terms->hasExpiry && stored != kNoDateStored && expiry) {
+      expiries[NullToLong(row[0])] = *expiry;
+    }
+  }
+  return expiries;
+}
+
+}  // namespace
+
+void RemarkOnClearances(ListBox& list, DataConnection& connection, const DateTime& today) {
+  std::map<std::int32_t, DateTime> expiries;
+  try {
+    expiries = ReadExpiries(connection);
+  } catch (const RuntimeError&) {
+    return;
+  }
+  for (int index = 0; index < list.Count(); ++index) {
+    const auto found = expiries.find(list.ItemData(index));
+    if (found == expiries.end()) {
+      list.SetRemark(index, {}, Urgency::kNone);
+    } else if (found->second < today.Day()) {
+      list.SetRemark(index, "expired " + ShortDate(found->second), Urgency::kOverdue);
+    } else if (SerialOf(found->second) - SerialOf(today.Day()) <= kSoonInDays) {
+      list.SetRemark(index, "expires " + ShortDate(found->second), Urgency::kSoon);
+    } else {
+      list.SetRemark(index, {}, Urgency::kNone);
+    }
+  }
+}
+
+}  // namespace lorvane
