@@ -10,6 +10,7 @@
 #include "data/Files.h"
 #include "data/Schema.h"
 #include "data/modDataAccess.h"
+#include "employer/cOptions.h"
 
 namespace lorvane {
 namespace {
@@ -126,6 +127,23 @@ std::vector<std::string> CheckKeyCounters(EngineConnection& connection) {
   return findings;
 }
 
+// A company that never told its options has none of their sections.
+std::vector<std::string> CheckEmployerOptions(const Session& session) {
+  std::vector<std::string> findings;
+  EmployerOptions options;
+  for (const OptionSection& section : SectionsOf(options)) {
+    if (!section.byPlace || session.Ini().SectionGet(section.name).empty()) {
+      continue;
+    }
+    std::vector<const char*> keys;
+    for (const OptionKey& key : section.keys) {
+      keys.push_back(key.name);
+    }
+    Append(findings, CheckKeyOrder(session, section.name, keys));
+  }
+  return findings;
+}
+
 }  // namespace
 
 std::vector<std::string> CheckAssessmentSettings(const Session& session) {
@@ -174,6 +192,7 @@ std::vector<std::string> CheckCompany(const Session& session) {
   Append(findings, CheckAssessmentSettings(session));
   if (HasConfigFile(session)) {
     Append(findings, CheckKeyOrder(session, kRemittance, kRemittanceKeys));
+    Append(findings, CheckEmployerOptions(session));
   }
   return findings;
 }

@@ -1,6 +1,5 @@
 #include "company/GeneralPage.h"
 
-#include <algorithm>
 #include <array>
 #include <string>
 
@@ -10,13 +9,6 @@ namespace lorvane {
 namespace {
 
 constexpr int kCapitals = 1;
-
-constexpr std::array kProvinces{
-    "NF", "NS", "NB", "PE", "PQ", "ON", "MB", "SK", "AB", "BC", "NWT", "YK", "NUN", "AL", "AK",
-    "AS", "AZ", "AR", "CA", "CO", "CT", "DE", "DC", "FM", "FL", "GA",  "GU", "HI",  "ID", "IL",
-    "IN", "IA", "KS", "KY", "LA", "ME", "MH", "MD", "MA", "MI", "MN",  "MS", "MO",  "MT", "NE",
-    "NV", "NH", "NJ", "NM", "NY", "NC", "ND", "MP", "OH", "OK", "OR",  "PW", "PA",  "PR", "RI",
-    "SC", "SD", "TN", "TX", "UT", "VT", "VI", "VA", "WA", "WV", "WI",  "WY"};
 
 // Where a field's text is stored, and how much can be typed.
 struct FieldDesign {
@@ -58,9 +50,6 @@ GeneralPage::GeneralPage(Screen& screen) : screen_(screen) {
   }
   SetTextBoxCase(txtPrgIdentifier, kCapitals);
   SetTextBoxCase(txtPostalCode, kCapitals);
-  for (const char* province : kProvinces) {
-    cboProvinces.Add(province);
-  }
   cboProvinces.DataField = "Province";
   cboProvinces.TabPage = kTabPage;
   for (Label* label : {&lblBusNum, &lblPrgIdentifier, &lblLegalName, &lblOpAs, &lblAddress,
@@ -82,9 +71,7 @@ void GeneralPage::Show(const cCompany& company) {
   for (const FieldDesign& field : kFields) {
     (this->*field.box).SetText(company.*field.property);
   }
-  const auto* const offered = std::find(kProvinces.begin(), kProvinces.end(), company.Province);
-  cboProvinces.SetListIndex(
-      offered == kProvinces.end() ? -1 : static_cast<int>(offered - kProvinces.begin()));
+  cboProvinces.Show(company.Province);
 }
 
 void GeneralPage::ShowNew() {
@@ -92,7 +79,7 @@ void GeneralPage::ShowNew() {
     (this->*field.box).SetText("");
   }
   txtPrgIdentifier.SetText("NW");
-  cboProvinces.SetText("NS");
+  cboProvinces.Show("NS");
   txtAreaPhone.SetText("902");
   txtAreaFax.SetText("902");
 }
@@ -101,9 +88,7 @@ void GeneralPage::CopyTo(cCompany& company) const {
   for (const FieldDesign& field : kFields) {
     company.*field.property = (this->*field.box).Text();
   }
-  if (cboProvinces.ListIndex() >= 0) {
-    company.Province = cboProvinces.Text();
-  }
+  company.Province = cboProvinces.Code();
 }
 
 }  // namespace lorvane

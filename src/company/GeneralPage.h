@@ -2,9 +2,9 @@
 
 #include <vector>
 
+#include "company/ProvinceBox.h"
 #include "company/cCompany.h"
 #include "screen/Buttons.h"
-#include "screen/Lists.h"
 #include "screen/Screen.h"
 #include "screen/TextBox.h"
 
@@ -33,7 +33,7 @@ class GeneralPage {
   Label lblCity{screen_, "lblCity", "City:"};
   TextBox txtCity{screen_, "txtCity"};
   Label lblProvinces{screen_, "lblProvinces", "Prov/State:"};
-  ComboBox cboProvinces{screen_, "cboProvinces"};
+  ProvinceBox cboProvinces{screen_, "cboProvinces"};
   Label lblPostalCode{screen_, "lblPostalCode", "Post/Zip Code:"};
   TextBox txtPostalCode{screen_, "txtPostalCode"};
   Label lblPhone{screen_, "lblPhone", "Phone:"};
@@ -52,7 +52,7 @@ class GeneralPage {
   void Show(const cCompany& company);
   /// What the window proposes for a company that isn't on file yet.
   void ShowNew();
-  /// Copies what the controls hold into the record; a blank province leaves the record's.
+  /// Copies what the controls hold into the record.
   void CopyTo(cCompany& company) const;
 };
 

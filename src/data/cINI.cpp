@@ -43,6 +43,9 @@ void cINI::KeySave(const std::string& keyValue, const std::string& section,
   }
   IniDocument document(content.value_or(""));
   document.Set(Section, KeyName, KeyValue);
+  if (content == document.Text() && found == ConfigName) {
+    return;
+  }
   try {
     files_->Write(ConfigName, document.Text());
     if (found != ConfigName) {

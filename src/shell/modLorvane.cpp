@@ -6,6 +6,8 @@
 #include "basic/RuntimeError.h"
 #include "company/frmCheckList.h"
 #include "company/frmCompany.h"
+#include "employer/frmAssets.h"
+#include "employer/frmOptions.h"
 #include "payments/frmPayment.h"
 #include "payments/frmSelectAssessment.h"
 #include "payments/frmSelectDate.h"
@@ -38,6 +40,8 @@ ScreenRegistry AllScreens() {
   registry.Add<frmEmployees>("frmEmployees");
   registry.Add<frmSubContractor>("frmSubContractor");
   registry.Add<frmContracts>("frmContracts");
+  registry.Add<frmOptions>("frmOptions");
+  registry.Add<frmAssets>("frmAssets");
   return registry;
 }
 

@@ -3,11 +3,13 @@
 #include "basic/RuntimeError.h"
 #include "desktop/windows/AboutWindow.h"
 #include "desktop/windows/AddContractWindow.h"
+#include "desktop/windows/AssetsWindow.h"
 #include "desktop/windows/BirthDateWindow.h"
 #include "desktop/windows/CheckListWindow.h"
 #include "desktop/windows/CompanyWindow.h"
 #include "desktop/windows/ContractsWindow.h"
 #include "desktop/windows/EmployeesWindow.h"
+#include "desktop/windows/OptionsWindow.h"
 #include "desktop/windows/PaymentListWindow.h"
 #include "desktop/windows/PaymentWindow.h"
 #include "desktop/windows/SelectDateWindow.h"
@@ -38,6 +40,8 @@ WindowRegistry AllWindows() {
   windows.Add<frmBirthDate, BirthDateWindow>("frmBirthDate");
   windows.Add<frmContracts, ContractsWindow>("frmContracts");
   windows.Add<frmAddContract, AddContractWindow>("frmAddContract");
+  windows.Add<frmOptions, OptionsWindow>("frmOptions");
+  windows.Add<frmAssets, AssetsWindow>("frmAssets");
   windows.Add<frmAbout, AboutWindow>("frmAbout");
   windows.Add<frmSelectAssessment, PaymentListWindow>("frmSelectAssessment");
   windows.Add<frmPayment, PaymentWindow>("frmPayment");
