@@ -156,8 +156,8 @@ TEST_F(SubContractorWindow, RemarksOnClearanceLettersThatExpire) {
   for (const auto& letter : letters) {
     SCOPED_TRACE(std::string(letter.type) + letter.expiry);
     company_.Execute(std::string("UPDATE tblSubContract SET ContractType = '") + letter.type +
-                     "', Expiry = " + letter.expiry + " WHERE SubContractId = " +
-                     std::to_string(window_->list.ItemData(0)));
+                     "', Expiry = " + letter.expiry +
+                     " WHERE SubContractId = " + std::to_string(window_->list.ItemData(0)));
     window_->toolBar.cmdTbrRefresh.UserClick();
     EXPECT_EQ(window_->list.Entries()[0].remark, letter.remark);
     EXPECT_EQ(window_->list.Entries()[0].urgency, letter.urgency);
