@@ -29,7 +29,7 @@ QString FindProgram(const std::string& name) {
     return QStandardPaths::findExecutable(ToQt(name));
   }
   for (const char* calculator : kCalculators) {
-    const QString found = QStandardPaths::findExecutable(QLatin1String(calculator));
+    QString found = QStandardPaths::findExecutable(QLatin1String(calculator));
     if (!found.isEmpty()) {
       return found;
     }

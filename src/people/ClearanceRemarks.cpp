@@ -2,6 +2,8 @@
 
 #include <map>
 #include <optional>
+#include <string>
+#include <utility>
 
 #include "basic/RuntimeError.h"
 #include "data/modDataAccess.h"
@@ -39,15 +41,17 @@ void RemarkOnClearances(ListBox& list, DataConnection& connection, const DateTim
   }
   for (int index = 0; index < list.Count(); ++index) {
     const auto found = expiries.find(list.ItemData(index));
-    if (found == expiries.end()) {
-      list.SetRemark(index, {}, Urgency::kNone);
-    } else if (found->second < today.Day()) {
-      list.SetRemark(index, "expired " + ShortDate(found->second), Urgency::kOverdue);
-    } else if (SerialOf(found->second) - SerialOf(today.Day()) <= kSoonInDays) {
-      list.SetRemark(index, "expires " + ShortDate(found->second), Urgency::kSoon);
-    } else {
-      list.SetRemark(index, {}, Urgency::kNone);
+    std::string remark;
+    Urgency urgency = Urgency::kNone;
+    if (found != expiries.end() && found->second < today.Day()) {
+      remark = "expired " + ShortDate(found->second);
+      urgency = Urgency::kOverdue;
+    } else if (found != expiries.end() &&
+               SerialOf(found->second) - SerialOf(today.Day()) <= kSoonInDays) {
+      remark = "expires " + ShortDate(found->second);
+      urgency = Urgency::kSoon;
     }
+    list.SetRemark(index, std::move(remark), urgency);
   }
 }
 
