@@ -41,7 +41,7 @@ QWidget* PeopleTools(WindowBinder& binder, PeopleToolBar& toolBar) {
 }
 
 QWidget* PeopleNames(WindowBinder& binder, ListBox& list) {
-  constexpr int kWidth = 34;
+  constexpr int kWidth = 46;
   QListWidget* names = binder.Make(list);
   names->setUniformItemSizes(true);
   names->setAccessibleName(QWidget::tr("Names"));
