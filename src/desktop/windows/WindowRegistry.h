@@ -4,7 +4,6 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "desktop/binder/ScreenDialog.h"
 
@@ -22,9 +21,6 @@ class WindowRegistry {
   /// A new window, complete and not yet shown. Raises 51 when the screen has none.
   [[nodiscard]] std::unique_ptr<ScreenDialog> Make(Screen& screen, ScreenGate& gate,
                                                    QWidget* parent) const;
-  [[nodiscard]] bool Has(std::string_view name) const {
-    return makers_.find(name) != makers_.end();
-  }
 
  private:
   using Maker = std::function<std::unique_ptr<ScreenDialog>(Screen&, ScreenGate&, QWidget*)>;
