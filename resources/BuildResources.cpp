@@ -17,6 +17,7 @@
 
 #include "basic/Number.h"
 #include "basic/RuntimeError.h"
+#include "data/ContractTypes.h"
 #include "data/DataConnection.h"
 #include "data/Schema.h"
 #include "data/engine/Engine.h"
@@ -84,6 +85,7 @@ void MakeCompany(const fs::path& target, const std::vector<fs::path>& folders) {
         }
       }
     }
+    AddStandardContractTypes(connection);
   });
 }
 

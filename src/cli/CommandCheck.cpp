@@ -7,7 +7,7 @@ namespace lorvane {
 
 int RunCheck(const CommandOptions& options) {
   CommandProgram program(options);
-  program.OpenCompany();
+  program.OpenFile();
   const std::vector<std::string> findings = CheckCompany(program.GetSession());
   for (const std::string& finding : findings) {
     std::cout << finding << '\n';

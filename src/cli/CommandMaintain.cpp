@@ -8,14 +8,15 @@ namespace lorvane {
 int RunCompact(const CommandOptions& options) {
   CommandProgram program(options);
   program.OpenCompany();
-  const std::optional<Compaction> compaction = CompactDatabase(program.Context());
-  if (!compaction) {
+  const std::optional<CompactionOutcome> outcome = CompactDatabase(program.Context());
+  if (!outcome) {
     return 1;
   }
-  if (!compaction->done) {
-    throw CommandFailure(DescribeCompaction(*compaction));
+  CommandProgram::Warn(outcome->noBackup);
+  if (!outcome->compaction.done) {
+    throw CommandFailure(DescribeCompaction(outcome->compaction));
   }
-  std::cout << DescribeCompaction(*compaction) << ".\n";
+  std::cout << DescribeCompaction(outcome->compaction) << ".\n";
   return 0;
 }
 

@@ -1,12 +1,14 @@
 #include "cli/CommandProgram.h"
 
 #include <filesystem>
+#include <iostream>
 #include <vector>
 
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
 #include "cli/CompanyCheck.h"
 #include "cli/Console.h"
+#include "shell/TableUpgrades.h"
 #include "shell/modLorvane.h"
 
 namespace lorvane {
@@ -26,6 +28,17 @@ CommandProgram::CommandProgram(const CommandOptions& options)
 CommandProgram::~CommandProgram() { session_->gDataConn->DataClose(); }
 
 void CommandProgram::OpenCompany() {
+  OpenFile();
+  const std::string table = VerifyCompanyTables(Context());
+  if (!table.empty()) {
+    throw CommandFailure("The table " + table + " of '" + file_ +
+                         "' has a shape that this program doesn't know.");
+  }
+  CheckAssetTable(Context());
+  CheckPrincipalTable(Context());
+}
+
+void CommandProgram::OpenFile() {
   DataConnection& connection = *session_->gDataConn;
   connection.DataSource = file_;
   if (!connection.DataOpen()) {
@@ -36,10 +49,14 @@ void CommandProgram::OpenCompany() {
 
 void CommandProgram::OpenCompanyToChange() {
   OpenCompany();
-  if (!session_->Ini().KeyGet("DataBase", "YE", "").empty()) {
+  if (IsArchive()) {
     throw CommandFailure("'" + file_ +
                          "' is the archive of a closed year: nothing can be changed in it.");
   }
+}
+
+bool CommandProgram::IsArchive() const {
+  return !session_->Ini().KeyGet("DataBase", "YE", "").empty();
 }
 
 void CommandProgram::OpenCompanyForPayments() {
@@ -47,6 +64,12 @@ void CommandProgram::OpenCompanyForPayments() {
   const std::vector<std::string> findings = CheckAssessmentSettings(*session_);
   if (!findings.empty()) {
     throw CommandFailure(findings.front());
+  }
+}
+
+void CommandProgram::Warn(const std::string& sentence) {
+  if (!sentence.empty()) {
+    std::cerr << "lorvane-cli: " << sentence << std::endl;
   }
 }
 

@@ -31,10 +31,15 @@ class CommandProgram {
   CommandProgram& operator=(const CommandProgram&) = delete;
   ~CommandProgram();
 
-  /// Opens the company as Open Company does. Raises CommandFailure with the reason when it can't.
+  /// Opens the company as Open Company does, which brings a file of an earlier release up to date.
+  /// Raises CommandFailure with the reason when it can't.
   void OpenCompany();
+  /// As OpenCompany, for commands that look at the file as it stands and leave its tables alone.
+  void OpenFile();
   /// As OpenCompany, for commands that change the payroll: refuses a year-end archive.
   void OpenCompanyToChange();
+  /// Whether the open company is the archive of a closed year.
+  [[nodiscard]] bool IsArchive() const;
   /// As OpenCompanyToChange; refuses a configuration file, too, whose lines the payment window
   /// would misread.
   void OpenCompanyForPayments();
@@ -44,6 +49,8 @@ class CommandProgram {
   [[nodiscard]] CommandLineServices& Services() { return *services_; }
   [[nodiscard]] ScreenContext Context() { return services_->Context(); }
   [[nodiscard]] EngineConnection& Connection() { return session_->gDataConn->Connection(); }
+  /// Puts a sentence on standard error about what stopped nobody; nothing for an empty one.
+  static void Warn(const std::string& sentence);
   /// Raises the engine's error that a window or a record passed over in silence, if there was one:
   /// a command that met it isn't done.
   void RaiseEngineError();

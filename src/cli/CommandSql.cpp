@@ -26,7 +26,7 @@ void PrintRows(const ResultTable& table) {
 
 int RunSql(const CommandOptions& options, const std::string& statement) {
   CommandProgram program(options);
-  program.OpenCompany();
+  program.OpenFile();
   if (IsSelect(statement)) {
     PrintRows(program.Connection().Query(statement));
   } else {

@@ -53,7 +53,9 @@ int RunCloseYear(const CommandOptions& options, const std::string& givenYear) {
                          " closed? If it isn't, the folder has to go first.");
   }
   const std::string currentYear = session.Ini().KeyGet("Assessment", "CurrentYear", "");
-  if (!RunYearEnd(program.Context(), year)) {
+  const YearEndOutcome outcome = RunYearEnd(program.Context(), year);
+  CommandProgram::Warn(outcome.noBackup);
+  if (!outcome.closed) {
     // The window's procedure steps the year on all the same.
     session.Ini().KeySave(currentYear, "Assessment", "CurrentYear");
     throw CommandFailure("The year was not closed: payments and wages are as they were." +

@@ -58,6 +58,11 @@ int RunRemittance(const CommandOptions& options, const RemittanceOptions& remitt
 /// An empty year stands for the one that the procedure proposes.
 int RunCloseYear(const CommandOptions& options, const std::string& givenYear);
 int RunCompact(const CommandOptions& options);
+int RunBackup(const CommandOptions& options);
+/// Lists the backups of a company, whether or not its data file is there.
+int RunBackups(const CommandOptions& options);
+/// `backup` is a backup's folder, or the data file in it.
+int RunRestore(const std::string& backup, const std::string& folder);
 int RunResetMaximum(const CommandOptions& options, const std::string& amount);
 /// The year is the one that is closed: the rates are the next year's.
 int RunRollRates(const CommandOptions& options, const std::string& year);

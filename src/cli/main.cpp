@@ -164,6 +164,15 @@ class CommandLine {
   void AddMaintenance() {
     AddFile(AddCommand("compact", "Take the gaps out of the data file",
                        [this] { return RunCompact(options_); }));
+    AddFile(AddCommand("backup", "Make a checked copy of a company in its folder Backup",
+                       [this] { return RunBackup(options_); }));
+    AddFile(AddCommand("backups", "List the backups of a company, the newest first",
+                       [this] { return RunBackups(options_); }));
+    CLI::App* restore = AddCommand("restore", "Put the company of a backup into a folder",
+                                   [this] { return RunRestore(backup_, folder_); });
+    restore->add_option("BACKUP", backup_, "The backup's folder, or the data file in it")
+        ->required();
+    restore->add_option("FOLDER", folder_, "Where to put it; made when missing")->required();
     CLI::App* reset = AddCommand("reset-maximum", "Set every employee's maximum contribution",
                                  [this] { return RunResetMaximum(options_, amount_); });
     AddFile(reset);
@@ -226,6 +235,8 @@ class CommandLine {
   RemittanceOptions remittance_;
   std::string year_;
   std::string amount_;
+  std::string backup_;
+  std::string folder_;
 
   int ratesYear_ = 0;
   std::string sheet_;

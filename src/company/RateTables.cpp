@@ -29,10 +29,7 @@ EngineConnection& RateTables::Connection() {
 
 EngineConnection& RateTables::Open(bool readOnly) {
   dataConnection_->ReadOnly = readOnly;
-  if (!dataConnection_->DataOpen()) {
-    const EngineError& error = dataConnection_->Errors().front();
-    throw RuntimeError(error.number, error.description);
-  }
+  dataConnection_->OpenOrRaise();
   return dataConnection_->Connection();
 }
 

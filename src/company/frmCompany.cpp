@@ -82,6 +82,8 @@ void frmCompany::ConnectButtons() {
   cmdOK.OnClick = [this] { AcceptAndClose(); };
   cmdApply.OnClick = [this] { Save(); };
   cmdClose.OnClick = [this] { Close(); };
+  cmdUpdateRates.TabPage = IndustryPage::kTabPage;
+  cmdUpdateRates.OnClick = [this] { UpdateRates(); };
 }
 
 void frmCompany::ConnectField(TextBox& box, const KeyFilter& filter) {
@@ -234,6 +236,14 @@ void frmCompany::StoreName() {
   Setup = false;
 }
 
+// Closing years, and the rates of the next, are the main window's.
+void frmCompany::UpdateRates() {
+  if (Screen* main = context_.services.FindScreen("frmMain")) {
+    main->Call("UpdateRates");
+    WithoutEditing([this] { ReadIndustries(); });
+  }
+}
+
 void frmCompany::CopyToRecords() {
   generalPage.CopyTo(company_);
   industryPage.CopyTo(industries_);
@@ -332,12 +342,14 @@ void frmCompany::MarkChanged() {
   if (!loading_ && !changed_) {
     changed_ = true;
     cmdApply.SetEnabled(true);
+    cmdUpdateRates.SetEnabled(false);
   }
 }
 
 void frmCompany::ForgetChanges() {
   changed_ = false;
   cmdApply.SetEnabled(false);
+  cmdUpdateRates.SetEnabled(true);
 }
 
 }  // namespace lorvane

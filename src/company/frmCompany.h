@@ -32,6 +32,10 @@ class frmCompany : public Screen {
   Command cmdOK{*this, "cmdOK", "&OK"};
   Command cmdApply{*this, "cmdApply", "&Apply"};
   Command cmdClose{*this, "cmdClose", "&Close"};
+  /// Takes the published rates of the company's current year. It works on what is stored, so it is
+  /// on while nothing is changed.
+  Command cmdUpdateRates{*this, "cmdUpdateRates", "Update rates...",
+                         "Take the published rates of the current year"};
 
   /// When true at closing, the payment list behind is read again and the flag cleared.
   bool RefreshAssessment = false;
@@ -75,6 +79,7 @@ class frmCompany : public Screen {
   void ShowNewRecord();
   void Restore();
 
+  void UpdateRates();
   void CopyToRecords();
   bool Save();
   void StoreName();

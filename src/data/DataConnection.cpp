@@ -99,6 +99,12 @@ bool DataConnection::DataOpen() {
   }
 }
 
+void DataConnection::OpenOrRaise() {
+  if (!DataOpen()) {
+    throw RuntimeError(openErrors_.front().number, openErrors_.front().description);
+  }
+}
+
 void DataConnection::DataClose() {
   connection_.reset();
   released_ = true;
@@ -174,6 +180,20 @@ std::unique_ptr<WriteBatch> DataConnection::MakeBatch() const {
 
 std::unique_ptr<DataConnection> DataConnection::MakeAnother() const {
   return std::make_unique<DataConnection>(environment_);
+}
+
+std::unique_ptr<DataConnection> DataConnection::MakeTwin() const {
+  std::unique_ptr<DataConnection> twin = MakeAnother();
+  twin->SetProviderConst(providerConst_);
+  twin->Provider = Provider;
+  twin->InitialCatalog = InitialCatalog;
+  twin->DataSource = DataSource;
+  twin->LoginId = LoginId;
+  twin->Password = Password;
+  twin->UseODBC = UseODBC;
+  twin->DatabaseName = DatabaseName;
+  twin->DSN = DSN;
+  return twin;
 }
 
 void Commit(const std::unique_ptr<WriteBatch>& batch) {

@@ -64,6 +64,8 @@ class DataConnection {
 
   /// Closes what is open and opens DataSource with Password. False on any error; nothing is shown.
   bool DataOpen();
+  /// As DataOpen, but raises why DataSource can't be opened.
+  void OpenOrRaise();
   /// Closes for good: this object can't be opened again.
   void DataClose();
   [[nodiscard]] bool IsOpen() const { return connection_ != nullptr; }
@@ -86,6 +88,8 @@ class DataConnection {
 
   /// A new, closed connection of the same engine, with everything else as at construction.
   [[nodiscard]] std::unique_ptr<DataConnection> MakeAnother() const;
+  /// A new, closed connection with everything that ConnectString tells as here.
+  [[nodiscard]] std::unique_ptr<DataConnection> MakeTwin() const;
 
  private:
   [[nodiscard]] std::int32_t NextKey(const std::string& tableName, const std::string& keyColumn,

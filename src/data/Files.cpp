@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -206,6 +207,39 @@ void DiskFiles::Remove(const std::string& path) {
   if (unlink(path.c_str()) != 0 && errno != ENOENT) {
     Fail(errno, path);
   }
+}
+
+void DiskFiles::Rename(const std::string& from, const std::string& to) {
+  if (RenameToNew(from, to) != 0) {
+    Fail(errno, to);
+  }
+  SyncFolderOf(to);
+}
+
+void DiskFiles::RemoveFolder(const std::string& path) {
+  if (rmdir(path.c_str()) != 0) {
+    Fail(errno == EEXIST ? ENOTEMPTY : errno, path);
+  }
+}
+
+std::vector<std::string> DiskFiles::Names(const std::string& folder) {
+  std::vector<std::string> names;
+  std::error_code ignored;
+  for (fs::directory_iterator entry(folder, ignored); entry != fs::directory_iterator();
+       entry.increment(ignored)) {
+    names.push_back(entry->path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+std::uintmax_t DiskFiles::FreeSpace(const std::string& folder) {
+  std::error_code error;
+  const fs::space_info space = fs::space(folder, error);
+  if (error) {
+    Fail(error.value(), folder);
+  }
+  return space.available;
 }
 
 std::string FindWithoutCase(const std::string& path) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lorvane {
 
@@ -40,6 +41,14 @@ class Files {
   /// In bytes; raises 53 when there is no such file.
   [[nodiscard]] virtual std::uintmax_t Size(const std::string& path) = 0;
   virtual void Remove(const std::string& path) = 0;
+  /// Gives a file or folder another name, where nothing is: raises 58 otherwise.
+  virtual void Rename(const std::string& from, const std::string& to) = 0;
+  /// Removes an empty folder; raises 75 for one that isn't.
+  virtual void RemoveFolder(const std::string& path) = 0;
+  /// The names in a folder, sorted; none when there is no such folder.
+  [[nodiscard]] virtual std::vector<std::string> Names(const std::string& folder) = 0;
+  /// The bytes that can be written on the disk of a folder.
+  [[nodiscard]] virtual std::uintmax_t FreeSpace(const std::string& folder) = 0;
 };
 
 /// The files of this machine's disks.
@@ -55,6 +64,10 @@ class DiskFiles : public Files {
   [[nodiscard]] bool Exists(const std::string& path) override;
   [[nodiscard]] std::uintmax_t Size(const std::string& path) override;
   void Remove(const std::string& path) override;
+  void Rename(const std::string& from, const std::string& to) override;
+  void RemoveFolder(const std::string& path) override;
+  [[nodiscard]] std::vector<std::string> Names(const std::string& folder) override;
+  [[nodiscard]] std::uintmax_t FreeSpace(const std::string& folder) override;
 };
 
 /// The path as the folder spells it: when there is no file of exactly that name, one whose name

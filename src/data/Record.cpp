@@ -70,18 +70,54 @@ bool Record::Guarded(const char* operation, const char* addition, Operation run)
 bool Record::OpenRecordset() {
   return Guarded("OpenRecordset", "\r\nDid you set the DataConnection property on this Class?",
                  [&] {
-                   sql_ = BuildSelect();
-                   ClearInfo();
-                   recordset_.Close();
-                   eof_ = false;
-                   recordset_.Open(Connection().Connection(), sql_);
-                   if (recordset_.Eof()) {
-                     CloseRecordset();
-                     return false;
+                   while (true) {
+                     try {
+                       return OpenSelection();
+                     } catch (const RuntimeError& error) {
+                       if (!CheckSchema(error)) {
+                         throw;
+                       }
+                     }
                    }
-                   eof_ = !Retrieve();
-                   return !eof_;
                  });
+}
+
+bool Record::OpenSelection() {
+  sql_ = BuildSelect();
+  ClearInfo();
+  recordset_.Close();
+  eof_ = false;
+  recordset_.Open(Connection().Connection(), sql_);
+  if (recordset_.Eof()) {
+    CloseRecordset();
+    return false;
+  }
+  eof_ = !Retrieve();
+  return !eof_;
+}
+
+bool Record::CheckSchema(const RuntimeError& error) const {
+  const std::optional<SchemaRepair> repair = Repair();
+  if (!repair || error.Number() != repair->errorNumber || !ProbeFails(repair->probe)) {
+    return false;
+  }
+  cAppUpdates updates(Connection());
+  if (!(updates.*repair->addition)()) {
+    return false;
+  }
+  Connection().Connection().ClearErrors();
+  return true;
+}
+
+bool Record::ProbeFails(const char* statement) const {
+  try {
+    const auto own = Connection().MakeTwin();
+    own->OpenOrRaise();
+    static_cast<void>(own->Connection().Query(statement));
+    return false;
+  } catch (const RuntimeError&) {
+    return true;
+  }
 }
 
 bool Record::MoveFirst() {

@@ -10,6 +10,7 @@
 #include "basic/IndustrySlot.h"
 #include "data/DataConnection.h"
 #include "data/Recordset.h"
+#include "data/cAppUpdates.h"
 
 namespace lorvane {
 
@@ -117,6 +118,17 @@ class Record {
   /// The columns that Retrieve reads, separated by commas, by SelectFilter.
   [[nodiscard]] virtual std::string RetrieveColumns() const = 0;
 
+  /// How a class mends the file of an earlier release at the moment when OpenRecordset trips over
+  /// what is missing.
+  struct SchemaRepair {
+    /// The error that OpenRecordset meets then.
+    std::int32_t errorNumber;
+    /// A SELECT that fails as long as the addition hasn't been made.
+    const char* probe;
+    bool (cAppUpdates::*addition)();
+  };
+  [[nodiscard]] virtual std::optional<SchemaRepair> Repair() const { return std::nullopt; }
+
   /// Appends each complaint to InfoMsg; true when there is none.
   virtual bool ValidateRecord();
 
@@ -149,6 +161,10 @@ class Record {
   };
 
   [[nodiscard]] std::string BuildSelect() const;
+  bool OpenSelection();
+  /// True when the file lacked what the class can add, and has it now.
+  [[nodiscard]] bool CheckSchema(const RuntimeError& error) const;
+  [[nodiscard]] bool ProbeFails(const char* statement) const;
   [[nodiscard]] const Property& PropertyOf(std::string_view column) const;
   [[nodiscard]] const std::vector<const Property*>& RetrievePlan();
   [[nodiscard]] static double ReadNumber(Kind kind, const Value& value);

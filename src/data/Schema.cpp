@@ -1,9 +1,12 @@
 #include "data/Schema.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
 #include "basic/IndustrySlot.h"
+#include "basic/RuntimeError.h"
+#include "basic/Text.h"
 
 namespace lorvane {
 namespace {
@@ -158,6 +161,16 @@ TableDefinition KeyCounters() {
   return TableBuilder("tblTableIDs").Add({Key("Id"), Text("TableName", 50), Long("NextId")}).Done();
 }
 
+template <typename Item>
+const Item& Named(const std::vector<Item>& items, std::string_view name) {
+  const auto found = std::find_if(items.begin(), items.end(),
+                                  [&](const Item& item) { return EqualsNoCase(item.name, name); });
+  if (found == items.end()) {
+    throw RuntimeError(error_number::kItemNotFound);
+  }
+  return *found;
+}
+
 }  // namespace
 
 const std::vector<TableDefinition>& CompanyTables() {
@@ -174,6 +187,12 @@ const std::vector<TableDefinition>& CompanyTables() {
                                                    ContractTypes(),
                                                    KeyCounters()};
   return tables;
+}
+
+const TableDefinition& CompanyTable(std::string_view name) { return Named(CompanyTables(), name); }
+
+const Column& ColumnNamed(const TableDefinition& table, std::string_view name) {
+  return Named(table.columns, name);
 }
 
 TableDefinition RateTable(int year) {

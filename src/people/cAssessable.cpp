@@ -1,5 +1,6 @@
 #include "people/cAssessable.h"
 
+#include "basic/RuntimeError.h"
 #include "data/modDataAccess.h"
 
 namespace lorvane {
@@ -64,6 +65,11 @@ std::string cAssessable::InsertText() const {
 
 std::string cAssessable::UpdateText() const {
   return UpdateFilter == 0 ? UpdateOf(kColumns) + WhereKey() : std::string();
+}
+
+std::optional<Record::SchemaRepair> cAssessable::Repair() const {
+  return SchemaRepair{error_number::kEngineUnknownTable, "SELECT AssessId FROM tblAssessable",
+                      &cAppUpdates::AddAssessableTable};
 }
 
 }  // namespace lorvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "data/Record.h"
@@ -43,6 +44,7 @@ class cAssessable : public Record {
   [[nodiscard]] std::string BuildOrderBy() const override;
   [[nodiscard]] std::string InsertText() const override;
   [[nodiscard]] std::string UpdateText() const override;
+  [[nodiscard]] std::optional<SchemaRepair> Repair() const override;
 };
 
 }  // namespace lorvane

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "basic/RuntimeError.h"
 #include "basic/Text.h"
 #include "data/modDataAccess.h"
 
@@ -144,6 +145,11 @@ std::string cEmployee::UpdateText() const {
                          SlotName("AssessAmt", *slot)) +
                     WhereKey()
               : std::string();
+}
+
+std::optional<Record::SchemaRepair> cEmployee::Repair() const {
+  return SchemaRepair{error_number::kEngineUnknownColumn, "SELECT Street FROM tblEmployees",
+                      &cAppUpdates::AddEmployeeFields};
 }
 
 bool cEmployee::ValidateRecord() {

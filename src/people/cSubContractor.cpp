@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "basic/RuntimeError.h"
 #include "basic/Text.h"
 #include "data/modDataAccess.h"
 
@@ -132,6 +133,11 @@ std::string cSubContractor::UpdateText() const {
   return slot ? UpdateOf(SlotName("Amount", *slot) + ", " + SlotName("AssessAmt", *slot)) +
                     WhereKey()
               : std::string();
+}
+
+std::optional<Record::SchemaRepair> cSubContractor::Repair() const {
+  return SchemaRepair{error_number::kEngineUnknownColumn, "SELECT Expiry FROM tblSubContract",
+                      &cAppUpdates::AddSubConFields};
 }
 
 bool cSubContractor::ValidateRecord() {

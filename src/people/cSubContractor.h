@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "basic/IndustrySlot.h"
@@ -79,6 +80,7 @@ class cSubContractor : public Record {
   [[nodiscard]] std::string BuildOrderBy() const override;
   [[nodiscard]] std::string InsertText() const override;
   [[nodiscard]] std::string UpdateText() const override;
+  [[nodiscard]] std::optional<SchemaRepair> Repair() const override;
   bool ValidateRecord() override;
 };
 

@@ -9,6 +9,7 @@
 #include "screen/Session.h"
 #include "screen/modForm.h"
 #include "screen/modStatus.h"
+#include "yearend/BackUpFirst.h"
 #include "yearend/cYearEnd.h"
 #include "yearend/modYearEnd.h"
 
@@ -44,7 +45,7 @@ bool AskAndResetMaximum(ScreenContext context) {
 
 }  // namespace
 
-std::optional<Compaction> CompactDatabase(ScreenContext context) {
+std::optional<CompactionOutcome> CompactDatabase(ScreenContext context) {
   if (!AskYesNoCancel(context,
                       "This routine will compress your database and \r\n"
                       "improve your application's overall performance. \r\n"
@@ -54,10 +55,13 @@ std::optional<Compaction> CompactDatabase(ScreenContext context) {
     return std::nullopt;
   }
   context.services.SetPointer(pointer::kHourglass);
-  Compaction compaction = cYearEnd(context).ShowCompactDatabase_ADO();
+  CompactionOutcome outcome;
+  outcome.noBackup = BackUpFirst(context);
+  outcome.compaction = cYearEnd(context).ShowCompactDatabase_ADO();
   context.services.SetPointer(pointer::kDefault);
-  StatusMsg(context, DescribeCompaction(compaction));
-  return compaction;
+  StatusMsg(context, DescribeCompaction(outcome.compaction) +
+                         (outcome.noBackup.empty() ? "" : ". " + outcome.noBackup));
+  return outcome;
 }
 
 void PerformYearEnd(ScreenContext context) {
@@ -65,8 +69,11 @@ void PerformYearEnd(ScreenContext context) {
     return;
   }
   const std::string saved = StatusPush(context, "Performing year end procedure....please wait");
-  RunYearEnd(context, GetYearEndYear(context));
+  const YearEndOutcome outcome = RunYearEnd(context, GetYearEndYear(context));
   StatusPop(context, saved, true);
+  if (!outcome.noBackup.empty()) {
+    StatusMsg(context, outcome.noBackup);
+  }
 }
 
 bool AgreesToYearEnd(ScreenContext context) {
@@ -110,19 +117,32 @@ bool IsYear(const std::string& text) {
   return IsNumeric(text) && Length(text) == kDigits;
 }
 
-bool RunYearEnd(ScreenContext context, const std::string& year) {
-  bool closed = false;
+YearEndOutcome RunYearEnd(ScreenContext context, const std::string& year) {
+  YearEndOutcome outcome;
   if (!year.empty()) {
     context.services.SetPointer(pointer::kHourglass);
+    outcome.noBackup = BackUpFirst(context);
     cYearEnd yearEnd(context);
     yearEnd.Year = year;
     yearEnd.Destination = GetPathPart(context.session.gConfigFile);
-    closed = yearEnd.PerformYE();
+    outcome.closed = yearEnd.PerformYE();
     yearEnd.ResetCurrentYear();
     yearEnd.ShowCompactDatabase_ADO();
   }
   context.services.SetPointer(pointer::kDefault);
-  return closed;
+  return outcome;
+}
+
+void UpdateRates(ScreenContext context) {
+  try {
+    cYearEnd yearEnd(context);
+    // The class takes the rates of the year that follows the one being closed.
+    const std::string current = context.session.Ini().KeyGet("Assessment", "CurrentYear", "");
+    yearEnd.Year = std::to_string(ToInteger(current) - 1);
+    static_cast<void>(yearEnd.UpdateRates());
+  } catch (const RuntimeError& error) {
+    ShowError(context, error, box::kExclamation);
+  }
 }
 
 bool ResetMaximumContribution(ScreenContext context) {

@@ -11,9 +11,15 @@ namespace lorvane {
 // The main window's commands that close a year and keep the data file in shape. Each works on the
 // open company.
 
-/// Compact Database: asks and compacts. Nothing when the user doesn't want it. The result stands in
-/// the status bar.
-std::optional<Compaction> CompactDatabase(ScreenContext context);
+struct CompactionOutcome {
+  Compaction compaction;
+  /// Why there is no backup of what was before; empty when there is one or none is due.
+  std::string noBackup;
+};
+
+/// Compact Database: asks, makes a backup and compacts. Nothing when the user doesn't want it. The
+/// outcome stands in the status bar.
+std::optional<CompactionOutcome> CompactDatabase(ScreenContext context);
 
 /// Year End Procedure: asks, and closes the year that is agreed on. An error of a step that tells
 /// none itself is raised.
@@ -25,9 +31,20 @@ void PerformYearEnd(ScreenContext context);
 [[nodiscard]] std::string GetYearEndYear(ScreenContext context);
 /// Four digits as a user writes a year.
 [[nodiscard]] bool IsYear(const std::string& text);
-/// Closes the year, steps the current year on and compacts. The last two are done whether or not
-/// the first succeeded; nothing at all for an empty year. True when the year was closed.
-bool RunYearEnd(ScreenContext context, const std::string& year);
+struct YearEndOutcome {
+  /// The year was archived and closed.
+  bool closed = false;
+  /// As that of a compaction.
+  std::string noBackup;
+};
+
+/// Makes a backup, closes the year, steps the current year on and compacts. The last two are done
+/// whether or not the year could be closed; nothing at all for an empty year.
+YearEndOutcome RunYearEnd(ScreenContext context, const std::string& year);
+
+/// Takes the company's rates from the published table of its current year. What came of it is told,
+/// an error too.
+void UpdateRates(ScreenContext context);
 
 /// Reset Maximum Contribution: asks for the amount and sets it for every employee. True when done.
 bool ResetMaximumContribution(ScreenContext context);

@@ -11,6 +11,7 @@
 #include "screen/modForm.h"
 #include "screen/modHelp.h"
 #include "screen/modStatus.h"
+#include "shell/TableUpgrades.h"
 #include "shell/YearEndCommands.h"
 #include "shell/modLorvane.h"
 
@@ -135,6 +136,10 @@ bool frmMain::Call(std::string_view operation) {
     RefreshCompanyCaption();
     return true;
   }
+  if (operation == "UpdateRates") {
+    UpdateRates(context_);
+    return true;
+  }
   return false;
 }
 
@@ -182,10 +187,15 @@ void frmMain::OpenChosenCompany() {
   // A file that doesn't open is passed over in silence; the company before it is closed by now.
   if (session.gDataConn->DataOpen()) {
     session.gConfigFile = GetPathPart(file) + "LorvaneConfig.ini";
-    StatusMsg(context_, Caption());
-    RefreshCompanyCaption();
-    StatusMsg(context_, Caption());
-    ActivateMenu();
+    // So is one whose tables nobody knows, though it stays open.
+    if (VerifyCompanyTables(context_).empty()) {
+      StatusMsg(context_, Caption());
+      RefreshCompanyCaption();
+      StatusMsg(context_, Caption());
+      ActivateMenu();
+      CheckAssetTable(context_);
+      CheckPrincipalTable(context_);
+    }
   }
   context_.services.SetPointer(pointer::kDefault);
   StatusMsg(context_, Caption());

@@ -1,58 +1,13 @@
 #include "yearend/Compaction.h"
 
-#include <algorithm>
 #include <memory>
-#include <vector>
 
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
+#include "data/CheckedCopy.h"
 
 namespace lorvane {
 namespace {
-
-[[noreturn]] void Fail(const std::string& reason) {
-  throw RuntimeError(error_number::kEngineFailure, reason);
-}
-
-std::unique_ptr<DataConnection> OpenAs(const DataConnection& connection, const std::string& file) {
-  std::unique_ptr<DataConnection> other = connection.MakeAnother();
-  other->SetProviderConst(connection.ProviderConst());
-  other->Password = connection.Password;
-  other->DataSource = file;
-  if (!other->DataOpen()) {
-    Fail(other->Errors().front().description);
-  }
-  return other;
-}
-
-std::vector<std::string> TablesOf(EngineConnection& connection) {
-  std::vector<std::string> names = connection.TableNames();
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
-void CompareWithFile(EngineConnection& file, EngineConnection& copy) {
-  if (!copy.CheckIntegrity().empty()) {
-    Fail("The compacted copy is damaged.");
-  }
-  const std::vector<std::string> tables = TablesOf(file);
-  if (TablesOf(copy) != tables) {
-    Fail("The compacted copy lacks a table.");
-  }
-  for (const std::string& table : tables) {
-    const std::string count = "SELECT Count(*) AS Rows FROM [" + table + "]";
-    if (copy.Query(count).rows != file.Query(count).rows) {
-      Fail("The compacted copy lacks rows of " + table + ".");
-    }
-  }
-}
-
-// The log goes when the last one who has the file open closes it.
-void RequireClosed(Files& files, const std::string& file) {
-  if (files.Exists(file + "-wal")) {
-    Fail("The file " + file + " is in use by another program.");
-  }
-}
 
 void RemoveCopy(Files& files, const std::string& copy) {
   for (const char* companion : {"-journal", "-wal", "-shm", ""}) {
@@ -88,12 +43,13 @@ Compaction CompactDataFile(const DataConnection& connection, Files& files) {
   bool begun = false;
   try {
     compaction.bytesBefore = files.Size(file);
-    std::unique_ptr<DataConnection> opened = OpenAs(connection, file);
+    std::unique_ptr<DataConnection> opened = OpenCopy(connection, file);
     begun = true;
     // What a compaction that was killed may have left.
     RemoveCopy(files, copy);
     opened->Connection().WriteCompactCopy(copy);
-    CompareWithFile(opened->Connection(), OpenAs(connection, copy)->Connection());
+    RequireSameContent("The compacted copy", OpenCopy(connection, copy)->Connection(),
+                       opened->Connection());
     opened.reset();
     RequireClosed(files, file);
     RequireClosed(files, copy);

@@ -8,10 +8,7 @@
 namespace lorvane {
 
 PublishedRates::PublishedRates(DataConnection& connection, const std::string& year) {
-  if (!connection.DataOpen()) {
-    const EngineError& error = connection.Errors().front();
-    throw RuntimeError(error.number, error.description);
-  }
+  connection.OpenOrRaise();
   table_ = connection.Connection().Query("SELECT ID, SIC, Rate FROM tbl" + year);
 }
 

@@ -163,10 +163,7 @@ void cYearEnd::ResetCurrentYear() {
 
 Compaction cYearEnd::ShowCompactDatabase_ADO() {
   Session& session = context_.session;
-  std::unique_ptr<DataConnection> fresh = session.gDataConn->MakeAnother();
-  fresh->SetProviderConst(session.gDataConn->ProviderConst());
-  fresh->DataSource = session.gDataConn->DataSource;
-  fresh->Password = session.gDataConn->Password;
+  std::unique_ptr<DataConnection> fresh = session.gDataConn->MakeTwin();
   session.gDataConn->DataClose();
   Compaction compaction = CompactDataFile(*fresh, session.files);
   session.gDataConn = std::move(fresh);

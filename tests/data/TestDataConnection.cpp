@@ -50,6 +50,7 @@ TEST(DataConnection, ComposesItsConnectionString) {
     connection.InitialCatalog = "cat";
     connection.DataSource = "/c/Data.mdb";
     EXPECT_EQ(connection.ConnectString(), row.text);
+    EXPECT_EQ(connection.MakeTwin()->ConnectString(), row.text);
     EXPECT_EQ(connection.DataOpen(), !row.odbc && row.provider == 1);
   }
 }

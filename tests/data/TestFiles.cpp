@@ -47,20 +47,33 @@ class FilesOnDisk : public testing::Test {
       return error.Number();
     }
   }
-  [[nodiscard]] std::vector<std::string> Names() const {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
-      names.push_back(entry.path().filename().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-  }
+  [[nodiscard]] std::vector<std::string> Names() { return files_.Names(folder_.Path()); }
 
   TemporaryFolder folder_;
   DiskFiles files_;
   std::string old_ = folder_.File("old");
   std::string new_ = folder_.File("new");
 };
+
+TEST_F(FilesOnDisk, FoldersAreNamedAnewAndRemovedWhenEmpty) {
+  using Strings = std::vector<std::string>;
+  files_.MakeFolder(new_);
+  files_.Write(new_ + "/b", "2");
+  files_.Write(new_ + "/a", "1");
+  files_.Write(old_, "here");
+  EXPECT_EQ(ErrorOf(old_, [&] { files_.Rename(new_, old_); }), 58);
+  EXPECT_EQ(ErrorOf(new_, [&] { files_.RemoveFolder(new_); }), 75);
+  files_.Rename(new_, folder_.File("moved"));
+  EXPECT_EQ(files_.Names(folder_.File("moved")), (Strings{"a", "b"}));
+  EXPECT_EQ(files_.Names(new_), Strings());
+  files_.Remove(folder_.File("moved/a"));
+  files_.Remove(folder_.File("moved/b"));
+  files_.RemoveFolder(folder_.File("moved"));
+  EXPECT_EQ(Names(), Strings{"old"});
+  EXPECT_EQ(ErrorOf(folder_.File("x"), [&] { files_.Rename(new_, folder_.File("x")); }), 53);
+  EXPECT_GT(files_.FreeSpace(folder_.Path()), 0U);
+  EXPECT_EQ(ErrorOf(new_, [&] { static_cast<void>(files_.FreeSpace(new_)); }), 53);
+}
 
 TEST_F(FilesOnDisk, CopyWholeAndNeverOverAFile) {
   std::string content(200000, 'x');

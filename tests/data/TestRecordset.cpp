@@ -2,21 +2,12 @@
 
 #include "basic/RuntimeError.h"
 #include "data/Recordset.h"
+#include "support/ErrorOf.h"
 #include "support/RowsText.h"
 #include "support/TestCompany.h"
 
 namespace lorvane {
 namespace {
-
-template <typename Operation>
-std::int32_t ErrorOf(Operation operation) {
-  try {
-    operation();
-    return 0;
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-}
 
 TEST(Recordset, AddsRowsAndChangesThem) {
   TestCompany company;

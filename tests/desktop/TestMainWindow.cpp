@@ -93,7 +93,8 @@ TEST(MainWindow, HelpIsFoundByWordsAndAboutTellsTheVersion) {
   const int pages = contents.topLevelItemCount();
   EXPECT_GE(pages, 6);
   QTest::keyClicks(&Part<QLineEdit>(*help, "helpSearch"), "white background");
-  EXPECT_EQ(contents.topLevelItemCount(), 1);
+  EXPECT_GE(contents.topLevelItemCount(), 1);
+  EXPECT_LT(contents.topLevelItemCount(), pages);
 }
 
 }  // namespace

@@ -11,20 +11,11 @@
 #include "screen/Screen.h"
 #include "screen/modListBox.h"
 #include "screen/modTextBox.h"
+#include "support/ErrorOf.h"
 #include "support/TestCompany.h"
 
 namespace lorvane {
 namespace {
-
-template <typename Operation>
-std::int32_t ErrorOf(Operation operation) {
-  try {
-    operation();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 class Controls : public testing::Test {
  protected:

@@ -52,4 +52,13 @@ void FaultyFiles::Remove(const std::string& path) {
   DiskFiles::Remove(path);
 }
 
+void FaultyFiles::Rename(const std::string& from, const std::string& to) {
+  Announce("rename", to);
+  DiskFiles::Rename(from, to);
+}
+
+std::uintmax_t FaultyFiles::FreeSpace(const std::string& folder) {
+  return Room ? *Room : DiskFiles::FreeSpace(folder);
+}
+
 }  // namespace lorvane

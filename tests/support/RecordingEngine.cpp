@@ -23,6 +23,7 @@ class RecordingEngine::Connection : public EngineConnection {
   void UpdateRow(const std::string&, std::int64_t, const ColumnValues&) override {}
   std::int64_t InsertRow(const std::string&, const ColumnValues&) override { return 0; }
   const std::vector<EngineError>& Errors() const override { return errors_; }
+  void ClearErrors() override { errors_.clear(); }
   std::vector<std::string> TableNames() override { return {}; }
   bool HasTable(const std::string&) override { return false; }
   std::vector<Column> ColumnsOf(const std::string&) override { return {}; }

@@ -8,6 +8,7 @@
 
 #include "basic/RuntimeError.h"
 #include "screen/Session.h"
+#include "support/ErrorOf.h"
 #include "support/RowsText.h"
 #include "support/TestCompany.h"
 #include "yearend/cYearEnd.h"
@@ -31,16 +32,5 @@ class YearEndCompany : public TestCompany {
   [[nodiscard]] std::vector<std::string> Names(const std::string& subfolder = {}) const;
   [[nodiscard]] cYearEnd MakeYearEnd();
 };
-
-/// The number of an operation's error, 0 when there was none.
-template <typename Operation>
-std::int32_t ErrorOf(Operation operation) {
-  try {
-    operation();
-    return 0;
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-}
 
 }  // namespace lorvane

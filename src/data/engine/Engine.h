@@ -52,6 +52,8 @@ class EngineConnection {
 
   /// The errors of the last operation that failed. An operation that succeeds doesn't clear them.
   [[nodiscard]] virtual const std::vector<EngineError>& Errors() const = 0;
+  /// For an operation that has mended what made it fail.
+  virtual void ClearErrors() = 0;
 
   // The catalog.
   [[nodiscard]] virtual std::vector<std::string> TableNames() = 0;

@@ -27,6 +27,7 @@ class FileConnection : public EngineConnection {
                  const ColumnValues& values) override;
   std::int64_t InsertRow(const std::string& table, const ColumnValues& values) override;
   const std::vector<EngineError>& Errors() const override { return errors_; }
+  void ClearErrors() override { errors_.clear(); }
 
   std::vector<std::string> TableNames() override;
   bool HasTable(const std::string& table) override;

@@ -34,7 +34,7 @@ QWidget* GeneralForm(WindowBinder& binder, GeneralPage& page) {
   return widget;
 }
 
-QWidget* IndustryRows(WindowBinder& binder, IndustryPage& page) {
+QWidget* IndustryRows(WindowBinder& binder, IndustryPage& page, Command& updateRates) {
   constexpr int kDescription = 44;
   constexpr int kNumber = 12;
   auto* widget = new QWidget;
@@ -65,6 +65,7 @@ QWidget* IndustryRows(WindowBinder& binder, IndustryPage& page) {
     ++line;
   }
   grid->setRowStretch(line, 1);
+  grid->addWidget(binder.Make(updateRates), line + 1, 0, Qt::AlignLeft);
   return widget;
 }
 
@@ -79,7 +80,8 @@ CompanyWindow::CompanyWindow(frmCompany& screen, ScreenGate& gate, QWidget* pare
   QTabWidget* pages = binder_.Make(screen.sstCompany);
   const auto& titles = screen.sstCompany.Titles();
   pages->addTab(GeneralForm(binder_, screen.generalPage), QString::fromStdString(titles[0]));
-  pages->addTab(IndustryRows(binder_, screen.industryPage), QString::fromStdString(titles[1]));
+  pages->addTab(IndustryRows(binder_, screen.industryPage, screen.cmdUpdateRates),
+                QString::fromStdString(titles[1]));
   binder_.MakePopUps();
 
   auto* middle = new QHBoxLayout;
