@@ -62,12 +62,12 @@ std::string ScaledDigits(double magnitude, int decimals, Half half) {
   return firstDigit == std::string::npos ? "0" : whole.substr(firstDigit);
 }
 
-std::string TwoDecimals(double dollars, bool separators) {
-  std::string digits = ScaledDigits(std::abs(CheckedDouble(dollars)), 2, Half::kAwayFromZero);
+// The text of whole cents.
+std::string TwoDecimals(std::string digits, bool negative, bool separators) {
   if (digits.size() < 3) {
     digits.insert(0, 3 - digits.size(), '0');
   }
-  const bool negative = dollars < 0 && digits.find_first_not_of('0') != std::string::npos;
+  negative = negative && digits.find_first_not_of('0') != std::string::npos;
   digits.insert(digits.size() - 2, ".");
   if (separators) {
     for (std::size_t at = digits.size() - 3; at > 3;) {
@@ -78,11 +78,28 @@ std::string TwoDecimals(double dollars, bool separators) {
   return (negative ? "-" : "") + digits;
 }
 
+std::string TwoDecimals(double dollars, bool separators) {
+  return TwoDecimals(ScaledDigits(std::abs(CheckedDouble(dollars)), 2, Half::kAwayFromZero),
+                     dollars < 0, separators);
+}
+
+std::string TwoDecimals(Currency amount, bool separators) {
+  constexpr std::uint64_t kOfCent = 100;
+  const std::int64_t units = amount.TenThousandths();
+  const auto bits = static_cast<std::uint64_t>(units);
+  const std::uint64_t magnitude = units < 0 ? 0 - bits : bits;
+  return TwoDecimals(std::to_string((magnitude + kOfCent / 2) / kOfCent), units < 0, separators);
+}
+
 }  // namespace
 
 std::string Money(double dollars) { return TwoDecimals(dollars, true); }
 
+std::string Money(Currency amount) { return TwoDecimals(amount, true); }
+
 std::string Plain(double dollars) { return TwoDecimals(dollars, false); }
+
+std::string Plain(Currency amount) { return TwoDecimals(amount, false); }
 
 Currency Currency::FromDouble(double dollars) {
   constexpr double limit = 922337203685477.0;

@@ -42,4 +42,8 @@ class Currency {
   std::int64_t units_ = 0;
 };
 
+/// The same texts of a fixed-point amount, exact whatever its size.
+[[nodiscard]] std::string Money(Currency amount);
+[[nodiscard]] std::string Plain(Currency amount);
+
 }  // namespace lorvane

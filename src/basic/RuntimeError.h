@@ -15,6 +15,7 @@ inline constexpr std::int32_t kTypeMismatch = 13;
 inline constexpr std::int32_t kHelpNotAvailable = 48;
 inline constexpr std::int32_t kInternalError = 51;
 inline constexpr std::int32_t kFileNotFound = 53;
+inline constexpr std::int32_t kDeviceError = 57;
 inline constexpr std::int32_t kFileAlreadyExists = 58;
 inline constexpr std::int32_t kDiskFull = 61;
 inline constexpr std::int32_t kPermissionDenied = 70;

@@ -39,6 +39,9 @@ class CommandLineServices : public ScreenHost {
   ShellResult RunShell(const ShellRequest& request) override;
   [[nodiscard]] bool IsRunning(int /*process*/) const override { return false; }
   void ShowHelp() override;
+  /// `painter` outlives this object; with null there are no fonts.
+  void SetPainter(ReportPainter* painter) { painter_ = painter; }
+  [[nodiscard]] ReportPainter* Painter() override { return painter_; }
   /// There are no windows.
   void ArrangeWindows(WindowArrangement /*arrangement*/) override {}
 
@@ -57,6 +60,7 @@ class CommandLineServices : public ScreenHost {
   Console console_;
   Clock clock_;
   bool assumeYes_;
+  ReportPainter* painter_ = nullptr;
   int beeps_ = 0;
   std::map<std::string, std::function<void(Screen&)>, std::less<>> modalHandlers_;
   std::map<std::string, std::string, std::less<>> inputs_;

@@ -7,7 +7,7 @@
 #include "people/NoDate.h"
 #include "people/cEmployee.h"
 #include "people/cSubContractor.h"
-#include "reports/ReportDocument.h"
+#include "reports/ReportExports.h"
 
 namespace lorvane {
 namespace {
@@ -31,7 +31,7 @@ Value DateValue(const std::string& stored) {
 }
 
 template <typename Person, typename RowOf>
-void AddRows(CommandProgram& program, std::int32_t orderBy, ReportDocument& list, RowOf rowOf) {
+void AddRows(CommandProgram& program, std::int32_t orderBy, ReportSection& list, RowOf rowOf) {
   Person person;
   person.SetDataConnection(program.GetSession().gDataConn.get());
   person.OrderByFilter = orderBy;
@@ -43,13 +43,12 @@ void AddRows(CommandProgram& program, std::int32_t orderBy, ReportDocument& list
     if (!more) {
       return;
     }
-    list.rows.push_back({ReportRow::Kind::kDetail, rowOf(person)});
+    list.rows.push_back({ReportRow::Kind::kDetail, rowOf(person), {}});
     more = person.MoveNext();
   }
 }
 
-void ListEmployees(CommandProgram& program, ReportDocument& list) {
-  list.title = "Employees on File";
+void ListEmployees(CommandProgram& program, ReportSection& list) {
   list.columns = {
       {"Id", ReportFormat::kNumber},         {"Last name", ReportFormat::kText},
       {"First name", ReportFormat::kText},   {"Initial", ReportFormat::kText},
@@ -69,8 +68,7 @@ void ListEmployees(CommandProgram& program, ReportDocument& list) {
   });
 }
 
-void ListSubContractors(CommandProgram& program, ReportDocument& list) {
-  list.title = "Sub-Contractors on File";
+void ListSubContractors(CommandProgram& program, ReportSection& list) {
   list.columns = {{"Id", ReportFormat::kNumber},          {"Name", ReportFormat::kText},
                   {"Business No.", ReportFormat::kText},  {"Industries", ReportFormat::kText},
                   {"Contract type", ReportFormat::kText}, {"Assessable %", ReportFormat::kNumber},
@@ -90,10 +88,13 @@ int RunList(const CommandOptions& options, const ListOptions& people) {
   CommandProgram program(options);
   program.OpenCompany();
   ReportDocument list;
+  ReportSection& table = list.sections.emplace_back();
   if (people.employees) {
-    ListEmployees(program, list);
+    list.title = "Employees on File";
+    ListEmployees(program, table);
   } else {
-    ListSubContractors(program, list);
+    list.title = "Sub-Contractors on File";
+    ListSubContractors(program, table);
   }
   cCompany company;
   company.SetDataConnection(program.GetSession().gDataConn.get());

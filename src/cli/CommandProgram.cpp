@@ -8,6 +8,7 @@
 #include "basic/Text.h"
 #include "cli/CompanyCheck.h"
 #include "cli/Console.h"
+#include "print/OffscreenPainter.h"
 #include "shell/TableUpgrades.h"
 #include "shell/modLorvane.h"
 
@@ -18,11 +19,13 @@ CommandProgram::CommandProgram(const CommandOptions& options)
                 ? options.file
                 : std::filesystem::absolute(options.file).lexically_normal().string()),
       engine_(MakeFileEngine()),
-      screens_(AllScreens()) {
+      screens_(AllScreens()),
+      painter_(MakeOffscreenPainter()) {
   const Clock clock = SystemClock();
   session_ = Main({engine_.get(), ProgramFolder(), clock}, files_);
   services_ = std::make_unique<CommandLineServices>(*session_, screens_, StandardConsole(), clock,
                                                     options.assumeYes);
+  services_->SetPainter(painter_.get());
 }
 
 CommandProgram::~CommandProgram() { session_->gDataConn->DataClose(); }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "cli/CommandLineServices.h"
+#include "reports/ReportPainter.h"
 #include "screen/Session.h"
 
 namespace lorvane {
@@ -62,6 +63,7 @@ class CommandProgram {
   std::unique_ptr<Engine> engine_;
   DiskFiles files_;
   ScreenRegistry screens_;
+  std::unique_ptr<ReportPainter> painter_;
   std::unique_ptr<Session> session_;
   std::unique_ptr<CommandLineServices> services_;
 };

@@ -10,7 +10,7 @@
 #include "company/RateSheet.h"
 #include "company/RateTables.h"
 #include "import/CsvFile.h"
-#include "reports/ReportDocument.h"
+#include "reports/ReportExports.h"
 
 namespace lorvane {
 namespace {

@@ -1,13 +1,12 @@
-#include <filesystem>
-#include <iostream>
+#include <initializer_list>
 
-#include "basic/RuntimeError.h"
 #include "basic/Text.h"
 #include "cli/Commands.h"
 #include "cli/PaymentWindow.h"
-#include "company/cCompany.h"
+#include "cli/ReportOutput.h"
+#include "reports/CompanyHeading.h"
 #include "reports/RemittanceFill.h"
-#include "reports/RemittanceReport.h"
+#include "reports/RemittanceViewer.h"
 
 namespace lorvane {
 namespace {
@@ -18,22 +17,6 @@ DateTime DateOfOption(const std::string& text) {
     throw CommandFailure("'" + text + "' is no date.");
   }
   return date->Day();
-}
-
-// Raises CommandFailure for a file that the list can't be written to. The result is its ending.
-std::string CheckOutput(const std::string& path) {
-  if (path.empty()) {
-    return {};
-  }
-  std::string extension = ToLower(std::filesystem::path(path).extension().string());
-  if (extension != ".txt" && extension != ".csv") {
-    throw CommandFailure("'" + path + "' should end in .txt or .csv.");
-  }
-  std::error_code ignored;
-  if (!std::filesystem::is_directory(std::filesystem::absolute(path).parent_path(), ignored)) {
-    throw CommandFailure("'" + path + "' can't be written: there is no such folder.");
-  }
-  return extension;
 }
 
 struct Period {
@@ -52,11 +35,10 @@ bool Fill(RemittanceFill& fill, const RemittanceOptions& options, const Period& 
   return fill.FillSubContractorRemittance(period.start, period.end, industryItem);
 }
 
-void AddHeadings(CommandProgram& program, RemittanceFill& fill, const RemittanceOptions& options,
-                 const Period& period, int industryItem, ReportDocument& report) {
-  cCompany company;
-  company.SetDataConnection(program.GetSession().gDataConn.get());
-  company.OpenRecordset();
+// The report as its window makes it; closing the window empties the scratch table.
+template <typename Viewer>
+ReportDocument MakeReport(CommandProgram& program, RemittanceFill& fill, const Period& period,
+                          int industryItem) {
   RemittanceHeadings headings;
   const bool all = industryItem == RemittanceFill::kAllIndustries;
   if (all) {
@@ -64,24 +46,26 @@ void AddHeadings(CommandProgram& program, RemittanceFill& fill, const Remittance
   } else {
     fill.IndustryHeading(industryItem, headings);
   }
-  report.title = options.payees.employees ? "Employee Remittance Calculation"
-                                          : "Sub-Contractor Remittance Calculation";
-  report.headings = {
-      company.LegalName,
-      "Business No.: " + company.BusNum + company.PrgIdentifier + headings.Identifier,
-      "From: " + LongDate(period.start) + " To: " + LongDate(period.end),
-      all ? "For All Industries" : "For: " + headings.IndustryDesc};
+  const CompanyHeading company = CompanyOf(program);
+  Viewer viewer(program.Context());
+  viewer.SelectReportType = all ? 1 : 0;
+  viewer.StartDate = LongDate(period.start);
+  viewer.EndDate = LongDate(period.end);
+  viewer.Identifier = company.businessNumber + headings.Identifier;
+  viewer.IndustryDesc = headings.IndustryDesc;
+  viewer.CompanyName = Trim(company.name + " " + company.address);
+  return ReportOf(program, viewer);
 }
 
 }  // namespace
 
 int RunRemittance(const CommandOptions& options, const RemittanceOptions& remittance) {
-  const std::string extension = CheckOutput(remittance.output);
   const Period period{DateOfOption(remittance.from), DateOfOption(remittance.to)};
   const int industryItem = remittance.payees.industry.empty()
                                ? RemittanceFill::kAllIndustries
                                : NumberOf(SlotOfOption(remittance.payees.industry));
   CommandProgram program(options);
+  CheckOutput(program, remittance.output);
   program.OpenCompany();
   RemittanceFill fill(program.Context());
   if (!Fill(fill, remittance, period, industryItem)) {
@@ -92,22 +76,11 @@ int RunRemittance(const CommandOptions& options, const RemittanceOptions& remitt
         box::kInformation, "No Records");
     return 1;
   }
-  ReportDocument report =
-      RemittanceReport(*program.GetSession().gDataConn, remittance.payees.employees
-                                                            ? RemittancePayees::kEmployees
-                                                            : RemittancePayees::kSubContractors);
-  AddHeadings(program, fill, remittance, period, industryItem, report);
-  const std::string text = extension == ".csv" ? ReportAsCsv(report) : ReportAsText(report);
-  // Whether the list reaches its place or not, the scratch table is empty again.
-  program.Connection().Execute(remittance.payees.employees ? "DELETE * FROM tblEmpRemittance"
-                                                           : "DELETE * FROM tblSubRemittance");
-  program.RaiseEngineError();
-  if (remittance.output.empty()) {
-    std::cout << text;
-  } else {
-    program.GetSession().files.Write(remittance.output, text);
-    std::cout << "Wrote " << remittance.output << ".\n";
-  }
+  WriteOutput(program,
+              remittance.payees.employees
+                  ? MakeReport<frmrptEmp>(program, fill, period, industryItem)
+                  : MakeReport<frmRptSub>(program, fill, period, industryItem),
+              remittance.output);
   return 0;
 }
 

@@ -2,7 +2,7 @@
 
 #include "cli/Commands.h"
 #include "cli/Statements.h"
-#include "reports/ReportDocument.h"
+#include "reports/ReportExports.h"
 
 namespace lorvane {
 namespace {

@@ -43,7 +43,16 @@ struct RemittanceOptions {
   PayeeOptions payees;
   std::string from;
   std::string to;
-  /// A file ending in .txt or .csv; empty for text on standard output.
+  /// A file whose ending names its kind; empty for text on standard output.
+  std::string output;
+};
+
+struct ReportOptions {
+  /// One of ReportNames().
+  std::string name;
+  /// Empty for the company's own.
+  std::string year;
+  /// As for RemittanceOptions.
   std::string output;
 };
 
@@ -55,6 +64,9 @@ int RunSql(const CommandOptions& options, const std::string& statement);
 int RunPay(const CommandOptions& options, const PayOptions& pay);
 int RunPost(const CommandOptions& options, const PostOptions& post);
 int RunRemittance(const CommandOptions& options, const RemittanceOptions& remittance);
+int RunReport(const CommandOptions& options, const ReportOptions& report);
+/// What `report` can make.
+[[nodiscard]] std::vector<std::string> ReportNames();
 /// An empty year stands for the one that the procedure proposes.
 int RunCloseYear(const CommandOptions& options, const std::string& givenYear);
 int RunCompact(const CommandOptions& options);

@@ -9,6 +9,8 @@
 #include "cli/ScriptRunner.h"
 #include "data/Files.h"
 #include "data/engine/Engine.h"
+#include "print/OffscreenPainter.h"
+#include "reports/ReportPainter.h"
 #include "screen/SystemClock.h"
 #include "shell/modLorvane.h"
 
@@ -23,6 +25,7 @@ int RunScript(const ScriptOptions& options) {
     return 1;
   }
   const std::unique_ptr<Engine> engine = MakeFileEngine();
+  const std::unique_ptr<ReportPainter> painter = MakeOffscreenPainter();
   const Clock clock = options.now ? FixedClock(*options.now) : SystemClock();
   ScriptVariables variables = options.variables;
   variables.emplace("VERSION", kVersionText);
@@ -33,6 +36,7 @@ int RunScript(const ScriptOptions& options) {
   stage.endOnError = [](ScreenContext context, const RuntimeError& error) {
     EndOnUnhandledError(context, error);
   };
+  stage.painter = painter.get();
   ScriptRunner runner(std::move(stage), console, clock);
   return runner.Run(options.path, ToUtf8(*text), variables) ? 0 : 1;
 }

@@ -10,6 +10,7 @@
 #include "cli/ScriptControlNames.h"
 #include "cli/ScriptErrors.h"
 #include "cli/ScriptKeys.h"
+#include "reports/ReportViewer.h"
 #include "screen/Buttons.h"
 #include "screen/Dates.h"
 #include "screen/ListView.h"
@@ -22,6 +23,10 @@ namespace lorvane {
 namespace {
 
 constexpr std::string_view kColumn = ".column_";
+constexpr char kPart = '.';
+
+// "CRViewer1.next" is a part of the control CRViewer1; a name without one is the control's own.
+std::string_view ControlIn(std::string_view name) { return name.substr(0, name.find(kPart)); }
 
 // A line at work on its control.
 struct Work {
@@ -51,9 +56,24 @@ void SetTick(const Work& work, bool ticked) {
 void Tick(const Work& work) { SetTick(work, true); }
 void Untick(const Work& work) { SetTick(work, false); }
 
+void ClickViewer(const Work& work, ReportViewer& viewer) {
+  const std::string& name = work.line.words[1].text;
+  const std::size_t at = name.find(kPart);
+  if (at == std::string::npos || !viewer.UserPress(std::string_view(name).substr(at + 1))) {
+    throw ScriptFailure{"there is no button " + name};
+  }
+}
+
 void Click(const Work& work) {
   const std::string& name = work.line.words[1].text;
+  if (auto* viewer = dynamic_cast<ReportViewer*>(&work.control)) {
+    ClickViewer(work, *viewer);
+    return;
+  }
   const std::size_t at = name.find(kColumn);
+  if (at == std::string::npos && name.find(kPart) != std::string::npos) {
+    throw ScriptFailure{"there is no control " + name};
+  }
   if (at == std::string::npos) {
     // Pages are turned with select.
     if (dynamic_cast<TabStrip*>(&work.control) == nullptr) {
@@ -84,6 +104,12 @@ void Type(const Work& work) {
   auto* combo = dynamic_cast<ComboBox*>(&work.control);
   if (combo != nullptr && combo->BoxStyle() == ComboBox::Style::kDropDown) {
     combo->SetText(text);
+    return;
+  }
+  if (auto* viewer = dynamic_cast<ReportViewer*>(&work.control)) {
+    if (!viewer->UserSearch(text)) {
+      work.note(ScriptText(text) + " isn't found");
+    }
     return;
   }
   auto* field = dynamic_cast<TextBox*>(&work.control);
@@ -207,7 +233,7 @@ void ScriptActions::CheckWords(const ScriptLine& line) {
 void ScriptActions::Run(ScriptProgram& program, const ScriptLine& line, const Note& note) {
   const Action& action = *FindAction(line.words[0]);
   const std::string& name = line.words[1].text;
-  Control& control = program.Find(std::string_view(name).substr(0, name.find(kColumn)));
+  Control& control = program.Find(ControlIn(name));
   Screen& screen = program.ActiveScreen();
   if (!control.Usable()) {
     note(Obstacle(control));

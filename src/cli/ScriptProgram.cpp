@@ -12,6 +12,7 @@ ScriptProgram::ScriptProgram(const ScriptStage& stage, Console console, Clock cl
       services_(*session_, stage.screens, console, std::move(clock), dialogue,
                 std::move(modalWork)),
       mainScreen_(stage.screens.Make(kMainScreen, services_.Context())) {
+  services_.SetPainter(stage.painter);
   if (mainScreen_ == nullptr) {
     throw ScriptFailure{"there is no screen " + std::string(kMainScreen)};
   }

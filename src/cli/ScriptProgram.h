@@ -11,6 +11,7 @@
 
 namespace lorvane {
 
+class ReportPainter;
 class RuntimeError;
 
 /// What a script's program is made from, at the start and again by each restart.
@@ -20,6 +21,8 @@ struct ScriptStage {
   ScreenRegistry screens;
   /// What the program does with an error that nobody handled; ends the program.
   std::function<void(ScreenContext, const RuntimeError&)> endOnError;
+  /// What paints reports; null for a program without fonts.
+  ReportPainter* painter = nullptr;
 };
 
 /// A running program with its main window, driven by a script. What is still open at its end is

@@ -29,6 +29,7 @@ class CommandLine {
     AddPay();
     AddPost();
     AddRemittance();
+    AddReport();
     AddYearEnd();
     AddMaintenance();
 
@@ -146,7 +147,22 @@ class CommandLine {
     AddPayees(command, remittance_.payees, false);
     command->add_option("--from", remittance_.from, "First day of the period")->required();
     command->add_option("--to", remittance_.to, "Last day of the period")->required();
-    command->add_option("-o,--output", remittance_.output, "A file ending in .txt or .csv");
+    AddOutput(command, remittance_.output);
+  }
+
+  static void AddOutput(CLI::App* command, std::string& path) {
+    command->add_option("-o,--output", path, "A file ending in .xlsx, .csv or .txt");
+  }
+
+  void AddReport() {
+    CLI::App* command = AddCommand("report", "Make one of the year's reports",
+                                   [this] { return RunReport(options_, report_); });
+    AddFile(command);
+    command->add_option("REPORT", report_.name, "Which report")
+        ->required()
+        ->check(CLI::IsMember(ReportNames()));
+    command->add_option("--year", report_.year, "The year in its heading");
+    AddOutput(command, report_.output);
   }
 
   void AddYearEnd() {
@@ -233,6 +249,7 @@ class CommandLine {
   PayOptions pay_;
   PostOptions post_;
   RemittanceOptions remittance_;
+  ReportOptions report_;
   std::string year_;
   std::string amount_;
   std::string backup_;

@@ -61,6 +61,15 @@ QString FilterOf(const std::string& filter) {
   return filters.join(QLatin1String(";;"));
 }
 
+// A name without an ending gets that of the kind chosen: "Text (*.txt)".
+QString WithEnding(const QString& path, const QString& kind) {
+  static const QRegularExpression kEnding(QStringLiteral("\\*(\\.\\w+)"));
+  const QRegularExpressionMatch ending = kEnding.match(kind);
+  return path.isEmpty() || !ending.hasMatch() || !QFileInfo(path).suffix().isEmpty()
+             ? path
+             : path + ending.captured(1);
+}
+
 QString StartOf(const std::string& start) {
   const QString path = ToQt(start);
   const QFileInfo folder(QFileInfo(path).isDir() ? path : QFileInfo(path).path());
@@ -116,10 +125,14 @@ std::string AskForFileName(QWidget* over, const FileDialog& dialog) {
   const QString title = ToQt(dialog.title);
   const QString start = StartOf(dialog.start);
   const QString filter = FilterOf(dialog.filter);
+  if (!dialog.newFile) {
+    return FromQt(QFileDialog::getOpenFileName(over, title, start, filter));
+  }
   // Whether a file may be written over is the screen's own question.
-  return FromQt(dialog.newFile ? QFileDialog::getSaveFileName(over, title, start, filter, nullptr,
-                                                              QFileDialog::DontConfirmOverwrite)
-                               : QFileDialog::getOpenFileName(over, title, start, filter));
+  QString kind;
+  const QString path = QFileDialog::getSaveFileName(over, title, start, filter, &kind,
+                                                    QFileDialog::DontConfirmOverwrite);
+  return FromQt(WithEnding(path, kind));
 }
 
 }  // namespace lorvane

@@ -30,7 +30,11 @@ class UsualPointer {
 
 QtServices::QtServices(Session& session, const ScreenRegistry& screens, ScreenGate& gate,
                        Clock clock)
-    : ScreenHost(session, screens), session_(session), gate_(gate), clock_(std::move(clock)) {}
+    : ScreenHost(session, screens),
+      session_(session),
+      gate_(gate),
+      clock_(std::move(clock)),
+      painter_([this] { return Front(); }) {}
 
 QtServices::~QtServices() {
   session_.status.OnChanged = nullptr;

@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 
+#include "desktop/PrinterPainter.h"
 #include "desktop/binder/ScreenGate.h"
 #include "desktop/windows/WindowRegistry.h"
 #include "screen/ScreenHost.h"
@@ -34,6 +35,7 @@ class QtServices : public ScreenHost {
   ShellResult RunShell(const ShellRequest& request) override;
   [[nodiscard]] bool IsRunning(int process) const override;
   void ShowHelp() override;
+  [[nodiscard]] ReportPainter* Painter() override { return &painter_; }
 
  protected:
   void RunModal(Screen& screen) override;
@@ -48,6 +50,7 @@ class QtServices : public ScreenHost {
   ScreenGate& gate_;
   Clock clock_;
   WindowRegistry windows_ = AllWindows();
+  PrinterPainter painter_;
   std::unique_ptr<SplashWindow> splash_;
   std::unique_ptr<MainWindow> main_;
   /// The windows of the screens that are open, but for the splash screen and the main window.

@@ -4,6 +4,7 @@
 #include "basic/RuntimeError.h"
 #include "screen/ScreenServices.h"
 #include "screen/Session.h"
+#include "screen/YearQuestion.h"
 #include "screen/modForm.h"
 
 namespace lorvane {
@@ -56,29 +57,12 @@ void frmSelectDate::AskCurrentYear() {
         context_.services.InputBox("What year should these payments be assigned to?", "Year",
                                    std::to_string(context_.services.Now().year));
     const std::int16_t year = ToInteger(given);
-    if (AcceptYear(year)) {
+    if (AcceptYear(context_, year, "Only payments after 2000 should be recorded.")) {
       currentYear_ = year;
       context_.session.Ini().KeySave(std::to_string(year), kSection, "CurrentYear");
       calDate.SetDate(MakeDate(year, 1, 1));
     }
   }
-}
-
-bool frmSelectDate::AcceptYear(std::int16_t year) {
-  constexpr int kFirstFourDigits = 1000;
-  constexpr int kFirst = 2000;  // the year 2000 itself passes, whatever the message says
-  constexpr int kLast = 2100;
-  if (year < kFirstFourDigits) {
-    context_.services.MsgBox("Please enter a four digit year.", box::kExclamation, "Year");
-  } else if (year < kFirst) {
-    context_.services.MsgBox("Only payments after 2000 should be recorded.", box::kInformation,
-                             "Payments");
-  } else if (year > kLast) {
-    context_.services.MsgBox("Please enter a valid year.", box::kExclamation, "Year");
-  } else {
-    return true;
-  }
-  return false;
 }
 
 void frmSelectDate::TakeDate() {

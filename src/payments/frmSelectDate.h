@@ -30,7 +30,6 @@ class frmSelectDate : public Screen {
   void ReadCurrentYear();
   /// Asks for the year of the payments until one from 2000 to 2100 is given, while it is 0.
   void AskCurrentYear();
-  [[nodiscard]] bool AcceptYear(std::int16_t year);
   void TakeDate();
   void Cancel();
   /// Whether the calendar's date lies in the current year; the user is told when not.

@@ -1,19 +1,22 @@
 #include "basic/Money.h"
 #include "basic/Text.h"
 #include "data/modDataAccess.h"
-#include "reports/ReportDocument.h"
+#include "reports/ReportExports.h"
 
 namespace lorvane {
 namespace {
 
-std::string ExportedText(const ReportColumn& column, const Value& value) {
-  if (column.format == ReportFormat::kMoney && !IsNull(value)) {
-    return Plain(NullToCurrency(value).ToDouble());
+std::string ExportedText(const ReportSection& section, const ReportRow& row, std::size_t column) {
+  if (column < row.cells.size()) {
+    const Value& value = row.cells[column];
+    if (section.columns[column].format == ReportFormat::kMoney && !IsNull(value)) {
+      return Plain(NullToCurrency(value));
+    }
+    if (const DateTime* date = std::get_if<DateTime>(&value)) {
+      return IsoDate(*date);
+    }
   }
-  if (const DateTime* date = std::get_if<DateTime>(&value)) {
-    return IsoDate(*date);
-  }
-  return TextOf(value);
+  return ShownText(section, row, column);
 }
 
 std::string CsvCell(const std::string& text) {
@@ -21,6 +24,26 @@ std::string CsvCell(const std::string& text) {
     return text;
   }
   return "\"" + Replace(text, "\"", "\"\"") + "\"";
+}
+
+void AddSection(const ReportSection& section, std::string& text) {
+  std::vector<std::string> cells;
+  if (HasColumnHeadings(section)) {
+    for (const ReportColumn& column : section.columns) {
+      cells.push_back(column.heading);
+    }
+    text += CsvLine(cells) + "\n";
+  }
+  for (const ReportRow& row : section.rows) {
+    if (row.kind == ReportRow::Kind::kGroup) {
+      continue;
+    }
+    cells.clear();
+    for (std::size_t column = 0; column < section.columns.size(); ++column) {
+      cells.push_back(ExportedText(section, row, column));
+    }
+    text += CsvLine(cells) + "\n";
+  }
 }
 
 }  // namespace
@@ -35,18 +58,10 @@ std::string CsvLine(const std::vector<std::string>& cells) {
 }
 
 std::string ReportAsCsv(const ReportDocument& report) {
-  std::vector<std::string> cells;
-  cells.reserve(report.columns.size());
-  for (const ReportColumn& column : report.columns) {
-    cells.push_back(column.heading);
-  }
-  std::string text = CsvLine(cells) + "\n";
-  for (const ReportRow& row : report.rows) {
-    cells.clear();
-    for (std::size_t i = 0; i < report.columns.size(); ++i) {
-      cells.push_back(ExportedText(report.columns[i], row.cells[i]));
-    }
-    text += CsvLine(cells) + "\n";
+  std::string text;
+  for (const ReportSection& section : report.sections) {
+    text += text.empty() ? "" : "\n";
+    AddSection(section, text);
   }
   return text;
 }

@@ -1,25 +1,12 @@
 #include <algorithm>
 
-#include "basic/Number.h"
 #include "basic/Text.h"
-#include "data/modDataAccess.h"
-#include "reports/ReportDocument.h"
+#include "reports/ReportExports.h"
 
 namespace lorvane {
 namespace {
 
 constexpr const char* kGap = "  ";
-
-bool IsRightAligned(const ReportColumn& column) {
-  return column.format == ReportFormat::kMoney || column.format == ReportFormat::kNumber;
-}
-
-std::string ShownText(const ReportColumn& column, const Value& value) {
-  if (column.format == ReportFormat::kMoney && !IsNull(value)) {
-    return Money(NullToCurrency(value).ToDouble());
-  }
-  return TextOf(value);
-}
 
 std::string Padded(const std::string& text, std::size_t width, bool right) {
   const std::size_t length = Length(text);
@@ -32,43 +19,77 @@ std::string WithoutTrailingBlanks(std::string line) {
   return line + "\n";
 }
 
-}  // namespace
-
-std::string ReportAsText(const ReportDocument& report) {
-  std::vector<std::size_t> widths;
-  for (const ReportColumn& column : report.columns) {
-    widths.push_back(Length(column.heading));
-  }
-  std::vector<std::vector<std::string>> lines;
-  for (const ReportRow& row : report.rows) {
-    std::vector<std::string>& line = lines.emplace_back();
-    for (std::size_t i = 0; i < report.columns.size(); ++i) {
-      line.push_back(ShownText(report.columns[i], row.cells[i]));
-      widths[i] = std::max(widths[i], Length(line.back()));
+/// A table as lines of padded cells.
+class TextTable {
+ public:
+  explicit TextTable(const ReportSection& section) : section_(section) {
+    for (const ReportColumn& column : section.columns) {
+      widths_.push_back(Length(column.heading));
+    }
+    for (const ReportRow& row : section.rows) {
+      if (row.kind == ReportRow::Kind::kGroup) {
+        continue;
+      }
+      for (std::size_t column = 0; column < widths_.size(); ++column) {
+        widths_[column] = std::max(widths_[column], Length(ShownText(section, row, column)));
+      }
     }
   }
 
+  [[nodiscard]] std::string Text() const {
+    std::string text;
+    if (HasColumnHeadings(section_)) {
+      text += WithoutTrailingBlanks(
+                  Line([&](std::size_t column) { return section_.columns[column].heading; })) +
+              Rule();
+    }
+    for (const ReportRow& row : section_.rows) {
+      if (row.kind == ReportRow::Kind::kGroup) {
+        continue;
+      }
+      text += row.kind == ReportRow::Kind::kTotal ? Rule() : "";
+      text += WithoutTrailingBlanks(
+          Line([&](std::size_t column) { return ShownText(section_, row, column); }));
+      text += row.kind == ReportRow::Kind::kSubtotal ? "\n" : "";
+    }
+    return text;
+  }
+
+ private:
+  template <typename TextOfColumn>
+  [[nodiscard]] std::string Line(TextOfColumn textOf) const {
+    std::string line;
+    for (std::size_t column = 0; column < widths_.size(); ++column) {
+      line += (column == 0 ? "" : kGap) +
+              Padded(textOf(column), widths_[column], IsRightAligned(section_.columns[column]));
+    }
+    return line;
+  }
+
+  [[nodiscard]] std::string Rule() const {
+    return Line([&](std::size_t column) { return std::string(widths_[column], '-'); }) + "\n";
+  }
+
+  const ReportSection& section_;
+  std::vector<std::size_t> widths_;
+};
+
+}  // namespace
+
+std::string ReportAsText(const ReportDocument& report) {
   std::string text = report.title + "\n";
   for (const std::string& heading : report.headings) {
     text += heading + "\n";
   }
-  std::string head;
-  std::string rule;
-  for (std::size_t i = 0; i < report.columns.size(); ++i) {
-    const char* gap = i == 0 ? "" : kGap;
-    head += gap + Padded(report.columns[i].heading, widths[i], IsRightAligned(report.columns[i]));
-    rule += gap + std::string(widths[i], '-');
-  }
-  text += "\n" + WithoutTrailingBlanks(head) + rule + "\n";
-  for (std::size_t row = 0; row < lines.size(); ++row) {
-    std::string line;
-    for (std::size_t i = 0; i < report.columns.size(); ++i) {
-      line += (i == 0 ? "" : kGap) +
-              Padded(lines[row][i], widths[i], IsRightAligned(report.columns[i]));
+  for (const ReportSection& section : report.sections) {
+    text += "\n";
+    if (!section.heading.empty()) {
+      text += section.heading + "\n" + std::string(Length(section.heading), '=') + "\n";
     }
-    const ReportRow::Kind kind = report.rows[row].kind;
-    text += (kind == ReportRow::Kind::kTotal ? rule + "\n" : "") + WithoutTrailingBlanks(line);
-    text += kind == ReportRow::Kind::kSubtotal ? "\n" : "";
+    text += TextTable(section).Text();
+  }
+  if (!report.notes.empty()) {
+    text += "\n" + Join(report.notes, "\n") + "\n";
   }
   return text;
 }

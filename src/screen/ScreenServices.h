@@ -9,6 +9,7 @@
 
 namespace lorvane {
 
+class ReportPainter;
 class Screen;
 
 /// Flags of a message box: an icon, and which buttons it offers besides OK alone.
@@ -130,6 +131,8 @@ class ScreenServices {
   [[nodiscard]] virtual bool IsRunning(int process) const = 0;
   /// Shows the manual. Raises 48 when there is no way to show it.
   virtual void ShowHelp() = 0;
+  /// What paints and prints reports; null for a front that has neither fonts nor printers.
+  [[nodiscard]] virtual ReportPainter* Painter() { return nullptr; }
 };
 
 }  // namespace lorvane

@@ -14,6 +14,9 @@
 #include "people/frmContracts.h"
 #include "people/frmEmployees.h"
 #include "people/frmSubContractor.h"
+#include "reports/RemittanceViewer.h"
+#include "reports/frmRemittanceCalc.h"
+#include "reports/frmReports.h"
 #include "screen/modForm.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
@@ -42,6 +45,11 @@ ScreenRegistry AllScreens() {
   registry.Add<frmContracts>("frmContracts");
   registry.Add<frmOptions>("frmOptions");
   registry.Add<frmAssets>("frmAssets");
+  registry.Add<frmRemittanceCalc>("frmRemittanceCalc");
+  registry.Add<frmrptEmp>("frmrptEmp");
+  registry.Add<frmRptSub>("frmRptSub");
+  registry.Add<frmSubQtrSumm>("frmSubQtrSumm");
+  registry.Add<frmReports>("frmReports");
   return registry;
 }
 

@@ -12,9 +12,13 @@
 #include "desktop/windows/OptionsWindow.h"
 #include "desktop/windows/PaymentListWindow.h"
 #include "desktop/windows/PaymentWindow.h"
+#include "desktop/windows/RemittanceWindow.h"
+#include "desktop/windows/ReportWindow.h"
 #include "desktop/windows/SelectDateWindow.h"
 #include "desktop/windows/SicWindow.h"
 #include "desktop/windows/SubContractorWindow.h"
+#include "reports/RemittanceViewer.h"
+#include "reports/frmReports.h"
 #include "screen/Screen.h"
 
 namespace lorvane {
@@ -46,6 +50,11 @@ WindowRegistry AllWindows() {
   windows.Add<frmSelectAssessment, PaymentListWindow>("frmSelectAssessment");
   windows.Add<frmPayment, PaymentWindow>("frmPayment");
   windows.Add<frmSelectDate, SelectDateWindow>("frmSelectDate");
+  windows.Add<frmRemittanceCalc, RemittanceWindow>("frmRemittanceCalc");
+  windows.Add<frmrptEmp, ReportWindow>("frmrptEmp");
+  windows.Add<frmRptSub, ReportWindow>("frmRptSub");
+  windows.Add<frmSubQtrSumm, ReportWindow>("frmSubQtrSumm");
+  windows.Add<frmReports, ReportWindow>("frmReports");
   return windows;
 }
 

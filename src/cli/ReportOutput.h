@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+#include "cli/CommandProgram.h"
+#include "reports/CompanyHeading.h"
+#include "reports/ReportScreen.h"
+
+namespace lorvane {
+
+// What the commands that make reports share.
+
+/// Raises CommandFailure for a file that a report can't be written to; an empty path is standard
+/// output.
+void CheckOutput(CommandProgram& program, const std::string& path);
+
+/// The company's heading; empty when its information was never filled in.
+[[nodiscard]] CompanyHeading CompanyOf(CommandProgram& program);
+
+/// Shows the window and gives the report that it made. Raises what stopped it.
+[[nodiscard]] ReportDocument ReportOf(CommandProgram& program, ReportScreen& viewer);
+
+/// Writes the report to the file, or as text to standard output.
+void WriteOutput(CommandProgram& program, const ReportDocument& report, const std::string& path);
+
+}  // namespace lorvane
