@@ -13,19 +13,22 @@ constexpr std::array kProvinces{
     "IN", "IA", "KS", "KY", "LA", "ME", "MH", "MD", "MA", "MI", "MN",  "MS", "MO",  "MT", "NE",
     "NV", "NH", "NJ", "NM", "NY", "NC", "ND", "MP", "OH", "OK", "OR",  "PW", "PA",  "PR", "RI",
     "SC", "SD", "TN", "TX", "UT", "VT", "VI", "VA", "WA", "WV", "WI",  "WY"};
+constexpr int kCanadian = 13;
 
 }  // namespace
 
-ProvinceBox::ProvinceBox(Screen& screen, std::string name) : ComboBox(screen, std::move(name)) {
-  for (const char* province : kProvinces) {
-    Add(province);
-  }
+ProvinceBox::ProvinceBox(Screen& screen, std::string name, Places places)
+    : ComboBox(screen, std::move(name)) {
+  const auto* const end =
+      places == Places::kCanada ? kProvinces.begin() + kCanadian : kProvinces.end();
+  std::for_each(kProvinces.begin(), end, [this](const char* province) { Add(province); });
 }
 
 void ProvinceBox::Show(const std::string& code) {
   shown_ = code;
-  const auto* const offered = std::find(kProvinces.begin(), kProvinces.end(), code);
-  SetListIndex(offered == kProvinces.end() ? -1 : static_cast<int>(offered - kProvinces.begin()));
+  const auto* const end = kProvinces.begin() + Count();
+  const auto* const offered = std::find(kProvinces.begin(), end, code);
+  SetListIndex(offered == end ? -1 : static_cast<int>(offered - kProvinces.begin()));
 }
 
 const std::string& ProvinceBox::Code() const { return ListIndex() < 0 ? shown_ : Text(); }

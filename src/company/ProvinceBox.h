@@ -6,10 +6,13 @@
 
 namespace lorvane {
 
-/// The drop-down list of Canadian provinces and territories and American states, by their codes.
+/// The drop-down list of Canadian provinces and territories by their codes, and behind them that
+/// of American states.
 class ProvinceBox : public ComboBox {
  public:
-  ProvinceBox(Screen& screen, std::string name);
+  enum class Places { kCanada, kCanadaAndStates };
+
+  ProvinceBox(Screen& screen, std::string name, Places places = Places::kCanadaAndStates);
 
   /// Selects the code. One that isn't offered shows as a blank, and is kept all the same.
   void Show(const std::string& code);

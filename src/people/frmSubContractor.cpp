@@ -1,7 +1,6 @@
 #include "people/frmSubContractor.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <limits>
 
@@ -33,8 +32,6 @@ constexpr PeopleWords kWords{
     "Are you sure you wish to delete the current subcontractor?",
 };
 
-constexpr std::array kProvinces{"NF", "NS", "NB", "PE",  "PQ", "ON", "MB",
-                                "SK", "AB", "BC", "NWT", "YK", "NUN"};
 // What a new sub-contractor begins with, wherever the company is.
 constexpr const char* kNewProvince = "NS";
 constexpr const char* kNewDescription = " ";
@@ -90,7 +87,7 @@ void frmSubContractor::Connect() {
   }
   Habits().MakeTextField(txtDesc);
   FieldHabits::MakeCapitals(txtPostalCode);
-  for (ComboBox* combo : {&cboProvinces, &cboContract}) {
+  for (ComboBox* combo : std::initializer_list<ComboBox*>{&cboProvinces, &cboContract}) {
     Habits().MarkEditWithKeys(*combo);
     combo->OnDropDown = [this] { MarkEdit(); };
   }
@@ -112,18 +109,11 @@ void frmSubContractor::Connect() {
   };
 }
 
-void frmSubContractor::LoadChoices() {
-  for (const char* province : kProvinces) {
-    cboProvinces.Add(province);
-  }
-  LoadContracts();
-}
-
 void frmSubContractor::RemarkOnPeople() {
   RemarkOnClearances(list, *context_.session.gDataConn, context_.services.Now());
 }
 
-void frmSubContractor::LoadContracts() {
+void frmSubContractor::LoadChoices() {
   cCompany company;
   company.SetDataConnection(context_.session.gDataConn.get());
   company.OpenRecordset();
@@ -166,7 +156,7 @@ void frmSubContractor::ShowSaved() { static_cast<void>(ShowFields()); }
 // A contract type that isn't offered ends it: the fields behind keep what they show.
 bool frmSubContractor::ShowFields() {
   ShowTexts(record_, business_);
-  ShowProvince();
+  cboProvinces.Show(record_.Province);
   if (!ShowContract()) {
     return false;
   }
@@ -176,17 +166,6 @@ bool frmSubContractor::ShowFields() {
   ShowTexts(record_, contacts_);
   chkInd.Tick(record_.Ind);
   return true;
-}
-
-// A province that isn't offered shows as a blank, and is kept unless another is chosen.
-void frmSubContractor::ShowProvince() {
-  const bool offered =
-      std::find(kProvinces.begin(), kProvinces.end(), record_.Province) != kProvinces.end();
-  if (offered) {
-    cboProvinces.SetText(record_.Province);
-  } else {
-    cboProvinces.SetListIndex(-1);
-  }
 }
 
 bool frmSubContractor::ShowContract() {
@@ -211,7 +190,7 @@ bool frmSubContractor::ShowContract() {
 
 void frmSubContractor::ClearFields() {
   ClearTexts(business_);
-  cboProvinces.SetText(kNewProvince);
+  cboProvinces.Show(kNewProvince);
   cboContract.SetListIndex(-1);
   if (cboContract.Count() > 0) {
     cboContract.SetListIndex(0);
@@ -225,9 +204,7 @@ void frmSubContractor::ClearFields() {
 
 void frmSubContractor::CopyFields() {
   CopyTexts(business_, record_);
-  if (cboProvinces.ListIndex() >= 0) {
-    record_.Province = cboProvinces.Text();
-  }
+  record_.Province = cboProvinces.Code();
   CopyTexts(contacts_, record_);
   CopyContract();
   record_.Description = txtDesc.Text();

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "company/ProvinceBox.h"
 #include "payments/history/cHistorySubCon.h"
 #include "people/PeopleScreenOf.h"
 #include "people/cSubContractor.h"
@@ -30,7 +31,8 @@ class frmSubContractor : public PeopleScreenOf<SubContractorKind> {
   Labelled<TextBox> txtSubName{*this, "txtSubName", "Name:"};
   Labelled<TextBox> txtAddress{*this, "txtAddress", "Address:"};
   Labelled<TextBox> txtCity{*this, "txtCity", "City:"};
-  Labelled<ComboBox> cboProvinces{*this, "cboProvinces", "Province: "};
+  Labelled<ProvinceBox> cboProvinces{*this, "cboProvinces",
+                                     "Province: ", ProvinceBox::Places::kCanada};
   Labelled<TextBox> txtPostalCode{*this, "txtPostalCode", "Postal Code:"};
   Labelled<TextBox> txtPhone{*this, "txtPhone", "Phone:"};
   Labelled<TextBox> txtFax{*this, "txtFax", "Fax:"};
@@ -64,11 +66,9 @@ class frmSubContractor : public PeopleScreenOf<SubContractorKind> {
   [[nodiscard]] Control& FirstField() override { return txtBusNum; }
   [[nodiscard]] bool IsComplete() override;
 
-  void LoadContracts();
   void ChooseContract();
   /// False when the record's contract type isn't offered; the user has been told.
   [[nodiscard]] bool ShowContract();
-  void ShowProvince();
   [[nodiscard]] bool ShowFields();
   void CopyContract();
   void CopyPercent();
