@@ -19,6 +19,7 @@ IndustryRow::IndustryRow(Screen& screen, IndustrySlot slot)
       txtRate(screen, SlotName("txtRate", slot)),
       txtIdentifier(screen, SlotName("txtIdentifier", slot)),
       slot_(slot) {
+  chkInd.UseMnemonic = false;
   chkInd.DataField = SlotName("Ind", slot);
   txtSic.DataField = SlotName("Sic", slot);
   txtRate.DataField = SlotName("Rate", slot);

@@ -21,6 +21,7 @@ IndustryBoxes::IndustryBoxes(Screen& screen, const std::string& tip)
     boxes_[slot] =
         std::make_unique<CheckBox>(screen, SlotName("chkInd", slot), DesignedCaption(slot));
     Box(slot).DataField = SlotName("Ind", slot);
+    Box(slot).UseMnemonic = false;
     Box(slot).SetEnabled(false);
     Box(slot).SetVisible(false);
   }

@@ -56,6 +56,9 @@ class CheckBox : public Control {
  public:
   CheckBox(Screen& screen, std::string name, std::string caption = {}, std::string tip = {});
 
+  /// False for a caption that a user wrote: an "&" in it is one, and marks no letter.
+  bool UseMnemonic = true;
+
   [[nodiscard]] bool Checked() const { return checked_; }
   void SetChecked(bool checked);
 

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <cstdlib>
 #include <filesystem>
 
 #include "basic/RuntimeError.h"
@@ -26,6 +27,7 @@ constexpr DateTime kNow{2026, 11, 23, 10, 0, 0};
 constexpr int kTick = 5;
 // A window that nobody attends to for so many ticks fails the test.
 constexpr int kPatience = 400;
+constexpr int kMostNeglected = 5;
 
 }  // namespace
 
@@ -103,6 +105,10 @@ void DesktopRun::Tick() {
     ADD_FAILURE() << "nobody attends to " << front->windowTitle().toStdString() << " "
                   << (box == nullptr ? std::string() : box->text().toStdString());
     idle_ = 0;
+    // Each closing may ask again what nobody answers.
+    if (++neglected_ == kMostNeglected) {
+      std::abort();
+    }
     front->close();
   }
 }

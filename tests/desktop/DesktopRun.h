@@ -58,6 +58,7 @@ class DesktopRun {
   std::unique_ptr<DesktopProgram> program_;
   std::unique_ptr<QObject> clockwork_;
   int idle_ = 0;
+  int neglected_ = 0;
 };
 
 /// A named part of a window, which must be there.

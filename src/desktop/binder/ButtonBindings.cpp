@@ -1,5 +1,6 @@
 #include "desktop/binder/ButtonBindings.h"
 
+#include "basic/Text.h"
 #include "desktop/binder/Mnemonics.h"
 #include "desktop/binder/QtText.h"
 
@@ -20,7 +21,8 @@ CheckBinding::CheckBinding(WindowBinder& window, CheckBox& control, QAbstractBut
 }
 
 void CheckBinding::ShowValue() {
-  SetCaptionOf(button_, control_.Caption());
+  SetCaptionOf(button_,
+               control_.UseMnemonic ? control_.Caption() : Replace(control_.Caption(), "&", "&&"));
   button_.setChecked(control_.Checked());
 }
 
@@ -38,7 +40,10 @@ void OptionBinding::ShowValue() {
 }
 
 LabelBinding::LabelBinding(WindowBinder& window, Label& control, QLabel& label)
-    : Binding(window, control, label), control_(control), label_(label) {}
+    : Binding(window, control, label), control_(control), label_(label) {
+  // What stands on file is no markup.
+  label.setTextFormat(Qt::PlainText);
+}
 
 void LabelBinding::ShowValue() {
   if (label_.buddy() != nullptr) {

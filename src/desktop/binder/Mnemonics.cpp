@@ -39,10 +39,24 @@ QString Marked(QString caption, QChar letter) {
   return place < 0 ? caption : caption.insert(place, QLatin1Char('&'));
 }
 
+// The caption without its mark; "&&" stands for one "&" of the text.
+QString Unmarked(const QString& caption) {
+  QString text;
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    if (caption.at(i) != QLatin1Char('&')) {
+      text += caption.at(i);
+    } else if (i + 1 < caption.size() && caption.at(i + 1) == QLatin1Char('&')) {
+      text += QLatin1String("&&");
+      ++i;
+    }
+  }
+  return text;
+}
+
 QString CaptionFor(const QWidget& widget, std::string_view caption) {
   const QString text = ToQt(caption);
   const QChar given = widget.property(kGiven).toChar();
-  return given.isNull() ? text : Marked(QString(text).remove(QLatin1Char('&')), given);
+  return given.isNull() ? text : Marked(Unmarked(text), given);
 }
 
 // Letters that begin a word come first, then all others.
@@ -111,7 +125,7 @@ void AssignMnemonics(QWidget& window) {
     return qobject_cast<const QAbstractButton*>(widget) != nullptr;
   });
   for (QWidget* widget : without) {
-    const QString caption = CaptionOf(*widget).remove(QLatin1Char('&'));
+    const QString caption = Unmarked(CaptionOf(*widget));
     for (const QChar letter : Candidates(caption)) {
       if (!used.contains(letter)) {
         used.insert(letter);

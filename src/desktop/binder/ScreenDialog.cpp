@@ -63,13 +63,6 @@ void ScreenDialog::Present() {
   binder_.FocusFirst();
 }
 
-QHBoxLayout* ScreenDialog::ToolStrip(QWidget& strip) {
-  auto* row = new QHBoxLayout(&strip);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(2);
-  return row;
-}
-
 QHBoxLayout* ScreenDialog::ButtonRow(std::initializer_list<Command*> buttons) {
   auto* row = new QHBoxLayout;
   row->addStretch(1);

@@ -21,8 +21,6 @@ class ScreenDialog : public QDialog {
   void Present();
 
  protected:
-  /// A strip of tool buttons behind the window's edge.
-  [[nodiscard]] static QHBoxLayout* ToolStrip(QWidget& strip);
   /// A row of buttons at the right edge, the same width all.
   [[nodiscard]] QHBoxLayout* ButtonRow(std::initializer_list<Command*> buttons);
   /// So many characters of the window's font, in pixels.

@@ -7,10 +7,10 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QRadioButton>
-#include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
-#include <array>
+
+#include "desktop/binder/ToolStrip.h"
 
 namespace lorvane {
 
@@ -41,31 +41,14 @@ PaymentListWindow::PaymentListWindow(frmSelectAssessment& screen, ScreenGate& ga
 }
 
 QWidget* PaymentListWindow::Tools(PaymentMenus& menus) {
-  struct Tool {
-    Command* command;
-    const char* icon;
-    bool gapBefore;
-  };
-  const std::array tools{
-      Tool{&menus.cmdTbrSave, "save", false},
-      Tool{&menus.cmdTbrRefresh, "refresh", false},
-      Tool{&menus.cmdTbrCalculator, "calculator", false},
-      Tool{&menus.cmdTbrPost, "post", true},
-      Tool{&menus.cmdTbrUndo, "undo", false},
-      Tool{&menus.cmdTbrFind, "search", true},
-      Tool{&menus.cmdTbrCancel, "cancel", true},
-  };
-  QGroupBox* strip = binder_.Make(menus.picTbrMain);
-  strip->setFlat(true);
-  QHBoxLayout* row = ToolStrip(*strip);
-  for (const Tool& tool : tools) {
-    if (tool.gapBefore) {
-      row->addSpacing(Characters(2));
-    }
-    row->addWidget(binder_.MakeTool(*tool.command, tool.icon));
-  }
-  row->addStretch(1);
-  return strip;
+  return MakeToolStrip(binder_, menus.picTbrMain,
+                       {{&menus.cmdTbrSave, "save"},
+                        {&menus.cmdTbrRefresh, "refresh"},
+                        {&menus.cmdTbrCalculator, "calculator"},
+                        {&menus.cmdTbrPost, "post", true},
+                        {&menus.cmdTbrUndo, "undo"},
+                        {&menus.cmdTbrFind, "search", true},
+                        {&menus.cmdTbrCancel, "cancel", true}});
 }
 
 QWidget* PaymentListWindow::Choices(frmSelectAssessment& screen) {

@@ -2,40 +2,24 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QShortcut>
-#include <QToolButton>
 #include <QVBoxLayout>
-#include <array>
 
 #include "desktop/binder/Icons.h"
+#include "desktop/binder/ToolStrip.h"
 
 namespace lorvane {
 
 QWidget* PeopleTools(WindowBinder& binder, PeopleToolBar& toolBar) {
-  struct Tool {
-    Command* command;
-    const char* icon;
-    bool gapBefore;
-  };
-  const std::array tools{
-      Tool{&toolBar.cmdTbrNew, "add", false},    Tool{&toolBar.cmdTbrImport, "import", false},
-      Tool{&toolBar.cmdTbrSave, "save", true},   Tool{&toolBar.cmdTbrRefresh, "refresh", false},
-      Tool{&toolBar.cmdTbrFind, "search", true}, Tool{&toolBar.cmdTbrDelete, "delete", true},
-  };
-  QGroupBox* strip = binder.Make(toolBar.picTbrMain);
-  strip->setFlat(true);
-  auto* row = new QHBoxLayout(strip);
-  row->setContentsMargins(0, 0, 0, 0);
-  for (const Tool& tool : tools) {
-    if (tool.gapBefore) {
-      row->addSpacing(2 * strip->fontMetrics().averageCharWidth());
-    }
-    row->addWidget(binder.MakeTool(*tool.command, tool.icon));
-  }
-  row->addStretch(1);
+  QWidget* strip = MakeToolStrip(binder, toolBar.picTbrMain,
+                                 {{&toolBar.cmdTbrNew, "add"},
+                                  {&toolBar.cmdTbrImport, "import"},
+                                  {&toolBar.cmdTbrSave, "save", true},
+                                  {&toolBar.cmdTbrRefresh, "refresh"},
+                                  {&toolBar.cmdTbrFind, "search", true},
+                                  {&toolBar.cmdTbrDelete, "delete", true}});
   binder.MakePopUps();
   return strip;
 }
