@@ -63,6 +63,7 @@ void frmSIC::ConnectControls() {
   lvwSic.OnDoubleClick = [this] { TakeSelected(); };
   cmdOK.OnClick = [this] { TakeSelected(); };
   cmdClose.OnClick = [this] { Close(); };
+  cmdClose.SetButtonRole(Command::Role::kCancel);
 }
 
 void frmSIC::Load() {

@@ -47,16 +47,17 @@ void PrinterPainter::Print(const ReportDocument& report) {
   const double scale = std::min(paper.width() / paged.width, paper.height() / paged.height) /
                        PageFonts::kUnitsPerPoint;
   painter.scale(scale, scale);
-  const auto count = static_cast<int>(paged.pages.size());
-  const int first = std::max(1, printer_->fromPage());
-  const int last = printer_->toPage() == 0 ? count : std::min(count, printer_->toPage());
-  for (int page = first; page <= last; ++page) {
+  // Counted from 1; 0 stands for all pages.
+  const auto from = static_cast<std::size_t>(printer_->fromPage());
+  const auto to = static_cast<std::size_t>(printer_->toPage());
+  const std::size_t first = std::max<std::size_t>(1, from);
+  const std::size_t last = to == 0 ? paged.pages.size() : std::min(paged.pages.size(), to);
+  for (std::size_t page = first; page <= last; ++page) {
     if (page > first && !printer_->newPage()) {
       throw RuntimeError(kPrinterError, "The printer takes no more pages.");
     }
-    pages.Paint(painter, static_cast<std::size_t>(page - 1));
-    TellProgress(static_cast<std::size_t>(page - first + 1),
-                 static_cast<std::size_t>(last - first + 1));
+    pages.Paint(painter, page - 1);
+    TellProgress(page - first + 1, last - first + 1);
   }
 }
 

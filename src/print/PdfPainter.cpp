@@ -1,12 +1,10 @@
 #include "print/PdfPainter.h"
 
+#include <qpdf/qpdf-c.h>
+
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
-#include <qpdf/Buffer.hh>
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFObjectHandle.hh>
-#include <qpdf/QPDFWriter.hh>
 
 #include "Version.h"
 #include "basic/RuntimeError.h"
@@ -25,23 +23,32 @@ QPageLayout PageOf(PageOrientation orientation) {
       QMarginsF()};
 }
 
+struct CloseFile {
+  void operator()(qpdf_data file) const { qpdf_cleanup(&file); }
+};
+using PdfFile = std::unique_ptr<_qpdf_data, CloseFile>;
+
+void Require(qpdf_data file, QPDF_ERROR_CODE outcome) {
+  if ((outcome & QPDF_ERRORS) != 0 || qpdf_has_error(file) != 0) {
+    throw RuntimeError(error_number::kDeviceError,
+                       std::string("The PDF file can't be made: ") +
+                           qpdf_get_error_full_text(file, qpdf_get_error(file)) + ".");
+  }
+}
+
 // What the writer has no say in: whose report it is.
 std::string WithAuthor(const QByteArray& pdf, const std::string& author) {
-  try {
-    QPDF file;
-    file.processMemoryFile("report", pdf.constData(), static_cast<std::size_t>(pdf.size()));
-    file.getTrailer().getKey("/Info").replaceKey("/Author",
-                                                 QPDFObjectHandle::newUnicodeString(author));
-    QPDFWriter writer(file);
-    writer.setOutputMemory();
-    writer.setStreamDataMode(qpdf_s_preserve);
-    writer.write();
-    const std::shared_ptr<Buffer> bytes = writer.getBufferSharedPointer();
-    return {reinterpret_cast<const char*>(bytes->getBuffer()), bytes->getSize()};
-  } catch (const std::exception& error) {
-    throw RuntimeError(error_number::kDeviceError,
-                       std::string("The PDF file can't be made: ") + error.what() + ".");
-  }
+  const PdfFile owner(qpdf_init());
+  qpdf_data file = owner.get();
+  Require(file, qpdf_read_memory(file, "report", pdf.constData(),
+                                 static_cast<unsigned long long>(pdf.size()), nullptr));
+  const qpdf_oh info = qpdf_oh_get_key(file, qpdf_get_trailer(file), "/Info");
+  qpdf_oh_replace_key(file, info, "/Author", qpdf_oh_new_unicode_string(file, author.c_str()));
+  Require(file, qpdf_init_write_memory(file));
+  qpdf_set_stream_data_mode(file, qpdf_s_preserve);
+  Require(file, qpdf_write(file));
+  const unsigned char* bytes = qpdf_get_buffer(file);
+  return {bytes, bytes + qpdf_get_buffer_length(file)};
 }
 
 }  // namespace
