@@ -22,7 +22,7 @@
 #include "data/Schema.h"
 #include "data/engine/Engine.h"
 #include "data/engine/WriteBatch.h"
-#include "import/CsvFile.h"
+#include "import/sheet/CsvFile.h"
 
 namespace fs = std::filesystem;
 

@@ -4,6 +4,8 @@
 
 #include <array>
 #include <chrono>
+#include <cmath>
+#include <cstdint>
 #include <vector>
 
 #include "basic/RuntimeError.h"
@@ -314,6 +316,31 @@ double SerialOf(const DateTime& date) {
   const std::chrono::days days = DaysOf(date) - DaysOf(DateTime{});
   const double seconds = date.hour * 3600.0 + date.minute * 60.0 + date.second;
   return static_cast<double>(days.count()) + seconds / 86400.0;
+}
+
+std::optional<DateTime> DateOfSerial(double serial) {
+  // Days from 30 December 1899 to the ends of the years 99 and 9999.
+  constexpr double beforeFirst = -657435.0;
+  constexpr double afterLast = 2958466.0;
+  if (!(serial > beforeFirst && serial < afterLast)) {
+    return std::nullopt;
+  }
+  constexpr double secondsOfDay = 86400.0;
+  const auto seconds = static_cast<std::int64_t>(std::nearbyint(serial * secondsOfDay));
+  const std::chrono::sys_seconds moment =
+      std::chrono::sys_days(std::chrono::year(1899) / 12 / 30) + std::chrono::seconds(seconds);
+  const std::chrono::sys_days day = std::chrono::floor<std::chrono::days>(moment);
+  const std::chrono::year_month_day parts(day);
+  std::optional<DateTime> date = MakeDate(static_cast<int>(parts.year()),
+                                          static_cast<int>(static_cast<unsigned>(parts.month())),
+                                          static_cast<int>(static_cast<unsigned>(parts.day())));
+  if (date) {
+    const std::chrono::hh_mm_ss time(moment - day);
+    date->hour = static_cast<int>(time.hours().count());
+    date->minute = static_cast<int>(time.minutes().count());
+    date->second = static_cast<int>(time.seconds().count());
+  }
+  return date;
 }
 
 }  // namespace lorvane

@@ -45,5 +45,7 @@ struct DateTime {
 
 /// Days since 30 December 1899 with the time of day as fraction: what a date is as a number.
 [[nodiscard]] double SerialOf(const DateTime& date);
+/// The date whose serial number it is; nothing outside the years 100 to 9999.
+[[nodiscard]] std::optional<DateTime> DateOfSerial(double serial);
 
 }  // namespace lorvane

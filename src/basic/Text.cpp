@@ -60,19 +60,6 @@ std::uint32_t Decode(std::string_view text, std::size_t at, std::size_t length) 
   return code;
 }
 
-void Encode(std::uint32_t code, std::string& out) {
-  if (code < 0x80) {
-    out += static_cast<char>(code);
-  } else if (code < 0x800) {
-    out += static_cast<char>(0xC0U | (code >> 6U));
-    out += static_cast<char>(0x80U | (code & 0x3FU));
-  } else {
-    out += static_cast<char>(0xE0U | (code >> 12U));
-    out += static_cast<char>(0x80U | ((code >> 6U) & 0x3FU));
-    out += static_cast<char>(0x80U | (code & 0x3FU));
-  }
-}
-
 bool IsPairedLatin(std::uint32_t code) {
   return (code >= 0x100 && code <= 0x137) || (code >= 0x14A && code <= 0x177);
 }
@@ -125,7 +112,7 @@ std::string MapCharacters(std::string_view text, Map map) {
     if (mapped == code) {
       out.append(text.substr(at, length));
     } else {
-      Encode(mapped, out);
+      AppendCharacter(out, mapped);
     }
     at += length;
   }
@@ -148,6 +135,27 @@ std::uint32_t FromWindows1252(unsigned byte) {
 std::size_t LastSeparator(std::string_view path) { return path.find_last_of("/\\"); }
 
 }  // namespace
+
+void AppendCharacter(std::string& text, std::uint32_t code) {
+  const auto tail = [&](unsigned shift) {
+    text += static_cast<char>(0x80U | ((code >> shift) & 0x3FU));
+  };
+  if (code < 0x80) {
+    text += static_cast<char>(code);
+  } else if (code < 0x800) {
+    text += static_cast<char>(0xC0U | (code >> 6U));
+    tail(0);
+  } else if (code < 0x10000) {
+    text += static_cast<char>(0xE0U | (code >> 12U));
+    tail(6);
+    tail(0);
+  } else {
+    text += static_cast<char>(0xF0U | (code >> 18U));
+    tail(12);
+    tail(6);
+    tail(0);
+  }
+}
 
 std::size_t Length(std::string_view text) {
   std::size_t count = 0;
@@ -240,7 +248,7 @@ std::string ToUtf8(std::string_view bytes) {
   for (std::size_t at = 0; at < bytes.size();) {
     const std::size_t length = WellFormedLength(bytes, at);
     if (length == 0) {
-      Encode(FromWindows1252(Byte(bytes[at])), out);
+      AppendCharacter(out, FromWindows1252(Byte(bytes[at])));
       ++at;
     } else {
       out.append(bytes.substr(at, length));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +39,8 @@ inline constexpr const char* kCrLf = "\r\n";
 /// The bytes as UTF-8: a byte-order mark goes, and bytes that aren't UTF-8 are read as
 /// Windows-1252.
 [[nodiscard]] std::string ToUtf8(std::string_view bytes);
+/// Adds the character of a code point.
+void AppendCharacter(std::string& text, std::uint32_t code);
 /// Each character's bytes, in order.
 [[nodiscard]] std::vector<std::string> Characters(std::string_view text);
 

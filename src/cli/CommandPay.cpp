@@ -7,7 +7,7 @@
 #include "basic/RuntimeError.h"
 #include "cli/Commands.h"
 #include "cli/PaymentWindow.h"
-#include "import/CsvFile.h"
+#include "import/sheet/CsvFile.h"
 
 namespace lorvane {
 namespace {

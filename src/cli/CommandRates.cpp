@@ -1,6 +1,3 @@
-#include <algorithm>
-#include <array>
-#include <filesystem>
 #include <iostream>
 #include <utility>
 
@@ -9,7 +6,7 @@
 #include "cli/Commands.h"
 #include "company/RateSheet.h"
 #include "company/RateTables.h"
-#include "import/CsvFile.h"
+#include "import/sheet/Spreadsheet.h"
 #include "reports/ReportExports.h"
 
 namespace lorvane {
@@ -18,34 +15,17 @@ namespace {
 constexpr int kFirstYear = 1900;
 constexpr int kLastYear = 2999;
 
-std::vector<SheetRow> ReadCsv(const std::string& path) {
-  const CsvFile file = CsvFile::Read(path);
+// Rows as ReadRateSheet takes them, whatever kind of file they stood in.
+std::vector<SheetRow> RowsOf(const std::string& path) {
+  const Spreadsheet sheet = ReadSpreadsheet(path);
   std::vector<SheetRow> rows;
-  for (const CsvRow& row : file.Rows()) {
-    rows.push_back({row.line, row.cells});
+  for (std::size_t row = 1; row <= sheet.RowCount(); ++row) {
+    SheetRow& taken = rows.emplace_back(SheetRow{row, {}});
+    for (std::size_t column = 1; column <= sheet.ColumnCount(row); ++column) {
+      taken.cells.push_back(CellText(sheet.Cell(row, column)));
+    }
   }
   return rows;
-}
-
-struct SheetKind {
-  const char* ending;
-  SheetReader read;
-};
-
-constexpr std::array kSheetKinds{SheetKind{".csv", ReadCsv}, SheetKind{".tsv", ReadCsv},
-                                 SheetKind{".txt", ReadCsv}};
-
-SheetReader ReaderOf(const std::string& path) {
-  const std::string ending = ToLower(std::filesystem::path(path).extension().string());
-  const auto* const kind =
-      std::find_if(kSheetKinds.begin(), kSheetKinds.end(),
-                   [&](const SheetKind& known) { return known.ending == ending; });
-  if (kind == kSheetKinds.end()) {
-    throw CommandFailure("'" + path +
-                         "' is no CSV file. Please save the sheet as CSV; its name then ends in "
-                         ".csv.");
-  }
-  return kind->read;
 }
 
 void CheckYear(int year) {
@@ -55,7 +35,7 @@ void CheckYear(int year) {
 }
 
 std::vector<PublishedRate> RatesOfSheet(const std::string& path) {
-  RateSheet sheet = ReadRateSheet(ReaderOf(path)(path));
+  RateSheet sheet = ReadRateSheet(RowsOf(path));
   const std::string name = GetNamePart(path);
   for (const std::string& fault : sheet.faults) {
     std::cerr << name << ", " << fault << '\n';

@@ -31,6 +31,15 @@ struct PayOptions {
   std::string paymentsFile;
 };
 
+struct ImportOptions {
+  bool employees = true;
+  /// A spreadsheet, or a CSV file.
+  std::string sheet;
+  /// How many columns to take; nothing for all of the layout.
+  std::optional<int> columns;
+  bool skipPeopleOnFile = false;
+};
+
 struct PostOptions {
   PayeeOptions payees;
   std::string date;
@@ -61,6 +70,9 @@ int RunShow(const CommandOptions& options, bool asJson);
 int RunList(const CommandOptions& options, const ListOptions& people);
 int RunCheck(const CommandOptions& options);
 int RunSql(const CommandOptions& options, const std::string& statement);
+int RunImportSheet(const CommandOptions& options, const ImportOptions& import);
+/// Copies the sub-contractors of another company's data file.
+int RunImportCompany(const CommandOptions& options, const std::string& source);
 int RunPay(const CommandOptions& options, const PayOptions& pay);
 int RunPost(const CommandOptions& options, const PostOptions& post);
 int RunRemittance(const CommandOptions& options, const RemittanceOptions& remittance);

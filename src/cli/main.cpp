@@ -26,6 +26,7 @@ class CommandLine {
     AddList();
     AddCheck();
     AddSql();
+    AddImport();
     AddPay();
     AddPost();
     AddRemittance();
@@ -125,6 +126,31 @@ class CommandLine {
         ->required();
   }
 
+  void AddImport() {
+    CLI::App& import = *app_.add_subcommand(
+        "import", "Bring people in from a spreadsheet, or from another company");
+    import.require_subcommand(1);
+    const auto addSheet = [&](const char* name, const char* help, bool employees) {
+      CLI::App* command = AddCommand(import, name, help, [this, employees] {
+        import_.employees = employees;
+        return RunImportSheet(options_, import_);
+      });
+      AddFile(command);
+      command->add_option("SHEET", import_.sheet, "A file of kind XLSX, XLS, ODS or CSV")
+          ->required();
+      command->add_option("--columns", import_.columns,
+                          "Take so many columns; all of the layout when not given");
+      command->add_flag("--skip-on-file", import_.skipPeopleOnFile,
+                        "Pass over people who are on file already");
+    };
+    addSheet("employees", "Bring employees in from a spreadsheet", true);
+    addSheet("subcontractors", "Bring sub-contractors in from a spreadsheet", false);
+    CLI::App* company = AddCommand(import, "company", "Copy another company's sub-contractors",
+                                   [this] { return RunImportCompany(options_, source_); });
+    AddFile(company);
+    company->add_option("SOURCE", source_, "The other company's data file")->required();
+  }
+
   void AddPay() {
     CLI::App* command = AddCommand("pay", "Save payments from a CSV file as working entries",
                                    [this] { return RunPay(options_, pay_); });
@@ -207,10 +233,13 @@ class CommandLine {
     addYear(AddCommand(rates, "export", "A year's rates as CSV",
                        [this] { return RunRatesExport(options_, ratesYear_); }));
     CLI::App* import =
-        AddCommand(rates, "import", "Bring a year's rates in from a CSV sheet, in place of its own",
+        AddCommand(rates, "import", "Bring a year's rates in from a sheet, in place of its own",
                    [this] { return RunRatesImport(options_, ratesYear_, sheet_); });
     addYear(import);
-    import->add_option("SHEET", sheet_, "CSV file of rows \"code,description,rate\"")->required();
+    import
+        ->add_option("SHEET", sheet_,
+                     "A file of kind XLSX, XLS, ODS or CSV of rows \"code,description,rate\"")
+        ->required();
     import->add_flag("--yes", options_.assumeYes, "Answer every question with Yes");
   }
 
@@ -246,6 +275,8 @@ class CommandLine {
   bool json_ = false;
   ListOptions list_;
   std::string statement_;
+  ImportOptions import_;
+  std::string source_;
   PayOptions pay_;
   PostOptions post_;
   RemittanceOptions remittance_;

@@ -16,9 +16,6 @@ struct SheetRow {
   std::vector<std::string> cells;
 };
 
-/// Reads the rows of a sheet file. Readers of other kinds of files are added by giving one.
-using SheetReader = std::vector<SheetRow> (*)(const std::string& path);
-
 /// What a sheet of published rates holds.
 struct RateSheet {
   /// In the sheet's order; to be used only when there are no faults.

@@ -93,8 +93,9 @@ void Recordset::Update() {
   EngineConnection& connection = Opened();
   const ColumnValues values = std::exchange(pending_, {});
   if (std::exchange(adding_, false)) {
-    rows_.rowNumbers.push_back(connection.InsertRow(rows_.table, values));
-    rows_.result.rows.emplace_back(rows_.result.columns.size());
+    const std::int64_t number = connection.InsertRow(rows_.table, values);
+    rows_.rowNumbers.push_back(number);
+    rows_.result.rows.push_back(NewRow(number));
     position_ = rows_.result.rows.size();
   } else if (!values.empty()) {
     connection.UpdateRow(rows_.table, rows_.rowNumbers[CurrentRow()], values);
@@ -102,6 +103,17 @@ void Recordset::Update() {
   for (const auto& [name, value] : values) {
     rows_.result.rows[position_ - 1][PlaceOf(name, 0)] = value;
   }
+}
+
+// Nulls, but for the key that the engine numbered; one that was given comes with the other values.
+std::vector<Value> Recordset::NewRow(std::int64_t number) const {
+  std::vector<Value> row(rows_.result.columns.size());
+  for (std::size_t place = 0; place < row.size(); ++place) {
+    if (rows_.result.columns[place].isKey) {
+      row[place] = static_cast<std::int32_t>(number);
+    }
+  }
+  return row;
 }
 
 EngineConnection& Recordset::Opened() const {

@@ -43,13 +43,15 @@ class Recordset {
   void AddNew();
   /// Sets a field of the new or the current row; it reaches the table with Update.
   void SetField(std::string_view name, Value value);
-  /// Writes the fields that were set. The cursor stands on the row afterwards.
+  /// Writes the fields that were set. The cursor stands on the row afterwards; a new row has its
+  /// key then, and nulls in the other fields that weren't set.
   void Update();
 
  private:
   [[nodiscard]] EngineConnection& Opened() const;
   [[nodiscard]] std::size_t PlaceOf(std::string_view name, std::size_t expectedPlace) const;
   [[nodiscard]] std::size_t CurrentRow() const;
+  [[nodiscard]] std::vector<Value> NewRow(std::int64_t number) const;
 
   EngineConnection* connection_ = nullptr;
   UpdatableRows rows_;

@@ -82,20 +82,9 @@ void TextBox::Edit(int key) {
 }
 
 std::string TextOfKey(int key) {
-  const auto code = static_cast<unsigned>(key);
-  const auto tail = [&](unsigned shift) {
-    return static_cast<char>(0x80U | ((code >> shift) & 0x3FU));
-  };
-  if (code < 0x80) {
-    return {static_cast<char>(code)};
-  }
-  if (code < 0x800) {
-    return {static_cast<char>(0xC0U | (code >> 6U)), tail(0)};
-  }
-  if (code < 0x10000) {
-    return {static_cast<char>(0xE0U | (code >> 12U)), tail(6), tail(0)};
-  }
-  return {static_cast<char>(0xF0U | (code >> 18U)), tail(12), tail(6), tail(0)};
+  std::string text;
+  AppendCharacter(text, static_cast<std::uint32_t>(key));
+  return text;
 }
 
 }  // namespace lorvane

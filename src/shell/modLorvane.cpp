@@ -8,6 +8,9 @@
 #include "company/frmCompany.h"
 #include "employer/frmAssets.h"
 #include "employer/frmOptions.h"
+#include "import/frmImport.h"
+#include "import/frmImportExisting.h"
+#include "import/frmImportHlp.h"
 #include "payments/frmPayment.h"
 #include "payments/frmSelectAssessment.h"
 #include "payments/frmSelectDate.h"
@@ -50,6 +53,9 @@ ScreenRegistry AllScreens() {
   registry.Add<frmRptSub>("frmRptSub");
   registry.Add<frmSubQtrSumm>("frmSubQtrSumm");
   registry.Add<frmReports>("frmReports");
+  registry.Add<frmImport>("frmImport");
+  registry.Add<frmImportHlp>("frmImportHlp");
+  registry.Add<frmImportExisting>("frmImportExisting");
   return registry;
 }
 

@@ -24,6 +24,7 @@ TEST(Recordset, AddsRowsAndChangesThem) {
     rows.Update();
   }
   EXPECT_EQ(TextOf(rows.Field("Description")), "Winch");
+  EXPECT_EQ(TextOf(rows.Field("AssetId")), "2");
   EXPECT_TRUE(IsNull(rows.Field("VehicleYear")));
   rows.MovePrevious();
   rows.SetField("VehicleYear", 1998);

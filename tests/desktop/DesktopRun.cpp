@@ -115,15 +115,15 @@ void DesktopRun::Tick() {
 
 void DesktopRun::Choose(const char* entry) { Part<QAction>(Main(), entry).trigger(); }
 
-void DesktopRun::ChooseFile() {
-  In(QStringLiteral("Data Location"), [this](QWidget& dialog) {
-    Part<QLineEdit>(dialog, "fileNameEdit").setText(QString::fromStdString(DataFile()));
-    QMetaObject::invokeMethod(&dialog, "accept");
+void DesktopRun::ChooseFile(const QString& dialog, const std::string& path) {
+  In(dialog, [path](QWidget& window) {
+    Part<QLineEdit>(window, "fileNameEdit").setText(QString::fromStdString(path));
+    QMetaObject::invokeMethod(&window, "accept");
   });
 }
 
 void DesktopRun::OpenCompany() {
-  ChooseFile();
+  ChooseFile(QStringLiteral("Data Location"), DataFile());
   Choose("mnuFOpenCompany");
 }
 

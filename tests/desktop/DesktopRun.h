@@ -41,8 +41,8 @@ class DesktopRun {
   void Answer(const QString& title, const QString& text, const QString& button);
   /// Chooses from the main window's menu; comes back when every window that it opened is closed.
   void Choose(const char* entry);
-  /// The next file dialog is given the copy's data file.
-  void ChooseFile();
+  /// The next file dialog, of this object name or title, is given a file.
+  void ChooseFile(const QString& dialog, const std::string& path);
   /// Open Company with the sample company's copy.
   void OpenCompany();
 

@@ -40,7 +40,7 @@ TEST(MainWindow, FollowsTheCompanyThatIsOpened) {
 TEST(MainWindow, ShowsAClosedYearOnWhiteWithTheReducedMenu) {
   DesktopRun run;
   run.SetIni("DataBase", "YE", "1");
-  run.ChooseFile();
+  run.ChooseFile(QStringLiteral("Data Location"), run.DataFile());
   run.Answer(QStringLiteral("Year End Files"),
              QStringLiteral("Please note that you have opened a \nyear end file."),
              QStringLiteral("OK"));

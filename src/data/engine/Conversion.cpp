@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <array>
-#include <chrono>
 #include <cmath>
 #include <string>
 
@@ -200,31 +199,6 @@ std::optional<Currency> AmountOf(double stored) {
 std::optional<DateTime> DateOf(std::string_view stored) {
   const std::optional<DateTime> date = ParseIsoDate(stored);
   return date ? date : ParseDate(stored);
-}
-
-std::optional<DateTime> DateOfSerial(double serial) {
-  // Days from 30 December 1899 to the ends of the years 99 and 9999.
-  constexpr double beforeFirst = -657435.0;
-  constexpr double afterLast = 2958466.0;
-  if (!(serial > beforeFirst && serial < afterLast)) {
-    return std::nullopt;
-  }
-  constexpr double secondsOfDay = 86400.0;
-  const auto seconds = static_cast<std::int64_t>(std::nearbyint(serial * secondsOfDay));
-  const std::chrono::sys_seconds moment =
-      std::chrono::sys_days(std::chrono::year(1899) / 12 / 30) + std::chrono::seconds(seconds);
-  const std::chrono::sys_days day = std::chrono::floor<std::chrono::days>(moment);
-  const std::chrono::year_month_day parts(day);
-  std::optional<DateTime> date = MakeDate(static_cast<int>(parts.year()),
-                                          static_cast<int>(static_cast<unsigned>(parts.month())),
-                                          static_cast<int>(static_cast<unsigned>(parts.day())));
-  if (date) {
-    const std::chrono::hh_mm_ss time(moment - day);
-    date->hour = static_cast<int>(time.hours().count());
-    date->minute = static_cast<int>(time.minutes().count());
-    date->second = static_cast<int>(time.seconds().count());
-  }
-  return date;
 }
 
 double NumberInText(std::string_view text) {

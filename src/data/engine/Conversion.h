@@ -18,8 +18,6 @@ namespace lorvane::sql {
 [[nodiscard]] std::optional<Currency> AmountOf(double stored);
 /// The date of a stored text.
 [[nodiscard]] std::optional<DateTime> DateOf(std::string_view stored);
-/// The date whose serial number it is; nothing outside the years 100 to 9999.
-[[nodiscard]] std::optional<DateTime> DateOfSerial(double serial);
 
 /// What a text means where a number, a flag or a date is compared with it. Each raises 0x80040E07
 /// when it is none.

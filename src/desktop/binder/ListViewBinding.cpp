@@ -2,7 +2,9 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QItemSelectionModel>
+#include <QToolTip>
 #include <algorithm>
 #include <numeric>
 
@@ -69,11 +71,25 @@ bool ListViewBinding::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize && watched == view_.viewport()) {
     FitColumns();
   }
+  if (event->type() == QEvent::ToolTip && watched == view_.viewport()) {
+    return TellCutText(*static_cast<QHelpEvent*>(event));
+  }
   if (control_.SelectedIndex() < 0 && SelectsFirstRow(*event)) {
     Act([this] { control_.UserSelectRows({0}); });
     return true;
   }
   return Binding::eventFilter(watched, event);
+}
+
+// The whole text of a cell that has no room for it.
+bool ListViewBinding::TellCutText(const QHelpEvent& event) {
+  const QModelIndex index = view_.indexAt(event.pos());
+  if (!index.isValid() ||
+      view_.sizeHintForIndex(index).width() <= view_.visualRect(index).width()) {
+    return false;
+  }
+  QToolTip::showText(event.globalPos(), index.data().toString(), &view_);
+  return true;
 }
 
 void ListViewBinding::ShowValue() {

@@ -5,6 +5,8 @@
 #include "desktop/binder/Binding.h"
 #include "desktop/binder/ListViewModel.h"
 
+class QHelpEvent;
+
 namespace lorvane {
 
 /// A table of rows of which several may be selected.
@@ -17,6 +19,7 @@ class ListViewBinding : public Binding {
   void ShowValue() override;
 
  private:
+  bool TellCutText(const QHelpEvent& event);
   void LayOutColumns();
   void FitColumns();
   void ShowSelection();

@@ -9,6 +9,9 @@
 #include "desktop/windows/CompanyWindow.h"
 #include "desktop/windows/ContractsWindow.h"
 #include "desktop/windows/EmployeesWindow.h"
+#include "desktop/windows/ImportExistingWindow.h"
+#include "desktop/windows/ImportHelpWindow.h"
+#include "desktop/windows/ImportWindow.h"
 #include "desktop/windows/OptionsWindow.h"
 #include "desktop/windows/PaymentListWindow.h"
 #include "desktop/windows/PaymentWindow.h"
@@ -46,6 +49,9 @@ WindowRegistry AllWindows() {
   windows.Add<frmAddContract, AddContractWindow>("frmAddContract");
   windows.Add<frmOptions, OptionsWindow>("frmOptions");
   windows.Add<frmAssets, AssetsWindow>("frmAssets");
+  windows.Add<frmImport, ImportWindow>("frmImport");
+  windows.Add<frmImportHlp, ImportHelpWindow>("frmImportHlp");
+  windows.Add<frmImportExisting, ImportExistingWindow>("frmImportExisting");
   windows.Add<frmAbout, AboutWindow>("frmAbout");
   windows.Add<frmSelectAssessment, PaymentListWindow>("frmSelectAssessment");
   windows.Add<frmPayment, PaymentWindow>("frmPayment");

@@ -1,4 +1,4 @@
-#include "import/CsvFile.h"
+#include "import/sheet/CsvFile.h"
 
 #include <fmt/format.h>
 
@@ -35,7 +35,7 @@ bool IsSeparator(char character) {
 // Hands every character outside quotes to `visit`, until that says false. A quote opens only where
 // a cell begins; doubled quotes close and open again.
 template <typename Visit>
-void VisitPlain(std::string& text, Visit visit) {
+void VisitPlain(std::string& text, CsvBlanks blanks, Visit visit) {
   bool quoted = false;
   bool mayOpen = true;
   for (char& character : text) {
@@ -45,7 +45,8 @@ void VisitPlain(std::string& text, Visit visit) {
     } else if (character == '"' && mayOpen) {
       quoted = true;
     } else {
-      mayOpen = character == '\n' || IsSeparator(character) || (mayOpen && character == ' ');
+      mayOpen = character == '\n' || IsSeparator(character) ||
+                (mayOpen && character == ' ' && blanks == CsvBlanks::kTrimmed);
       if (!visit(character)) {
         return;
       }
@@ -56,11 +57,11 @@ void VisitPlain(std::string& text, Visit visit) {
 using Counts = std::array<std::size_t, kSeparators.size()>;
 
 // How often each separator stands on each of the first lines that aren't empty.
-std::vector<Counts> CountSeparators(std::string& text) {
+std::vector<Counts> CountSeparators(std::string& text, CsvBlanks blanks) {
   std::vector<Counts> lines;
   Counts counts{};
   bool empty = true;
-  VisitPlain(text, [&](char character) {
+  VisitPlain(text, blanks, [&](char character) {
     if (character == '\n') {
       if (!empty) {
         lines.push_back(counts);
@@ -80,8 +81,8 @@ std::vector<Counts> CountSeparators(std::string& text) {
 }
 
 // The separator that stands equally often on every line; else the one most used on the first.
-char DetectSeparator(std::string& text) {
-  const std::vector<Counts> lines = CountSeparators(text);
+char DetectSeparator(std::string& text, CsvBlanks blanks) {
+  const std::vector<Counts> lines = CountSeparators(text, blanks);
   if (lines.empty()) {
     return ',';
   }
@@ -98,12 +99,12 @@ char DetectSeparator(std::string& text) {
 }
 
 // Line ends as the parser wants them, the last line ended too, and the separator exchanged.
-std::string Prepare(std::string_view bytes) {
+std::string Prepare(std::string_view bytes, CsvBlanks blanks) {
   std::string text = Replace(Replace(ToUtf8(bytes), "\r\n", "\n"), "\r", "\n");
   std::replace(text.begin(), text.end(), kUnitSeparator, ' ');
   text += '\n';
-  const char separator = DetectSeparator(text);
-  VisitPlain(text, [separator](char& character) {
+  const char separator = DetectSeparator(text, blanks);
+  VisitPlain(text, blanks, [separator](char& character) {
     if (character == separator) {
       character = kUnitSeparator;
     }
@@ -117,7 +118,7 @@ class RowCollector : public orcus::csv_handler {
  public:
   explicit RowCollector(std::string_view text) : end_(text.data() + text.size()) {}
 
-  void begin_row() { row_ = {line_, {}}; }
+  void begin_row() { row_ = {line_, ++number_, {}}; }
   void cell(std::string_view value, bool transient) {
     // An unclosed quote makes the parser report more than there is.
     if (!transient && !value.empty() && value.data() + value.size() > end_) {
@@ -133,7 +134,8 @@ class RowCollector : public orcus::csv_handler {
     for (const std::string& text : row_.cells) {
       line_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
     }
-    const bool empty = row_.cells.empty() || (row_.cells.size() == 1 && row_.cells[0].empty());
+    const bool empty =
+        row_.cells.empty() || (row_.cells.size() == 1 && Trim(row_.cells[0]).empty());
     if (!empty) {
       rows_.push_back(std::move(row_));
     }
@@ -145,18 +147,19 @@ class RowCollector : public orcus::csv_handler {
  private:
   const char* end_;
   std::size_t line_ = 1;
+  std::size_t number_ = 0;
   CsvRow row_;
   std::vector<CsvRow> rows_;
 };
 
 // Releases of the parser differ in how they take the text.
 template <typename Handler>
-void RunParser(std::string_view text, Handler& handler) {
+void RunParser(std::string_view text, CsvBlanks blanks, Handler& handler) {
   using Parser = orcus::csv_parser<Handler>;
   orcus::csv::parser_config config;
   config.delimiters = kUnitSeparator;
   config.text_qualifier = '"';
-  config.trim_cell_value = true;
+  config.trim_cell_value = blanks == CsvBlanks::kTrimmed;
   if constexpr (std::is_constructible_v<Parser, std::string_view, Handler&,
                                         const orcus::csv::parser_config&>) {
     Parser(text, handler, config).parse();
@@ -171,7 +174,7 @@ std::string_view CsvRow::Cell(std::size_t place) const {
   return place < cells.size() ? std::string_view(cells[place]) : std::string_view();
 }
 
-CsvFile CsvFile::Read(const std::string& path) {
+CsvFile CsvFile::Read(const std::string& path, CsvBlanks blanks) {
   std::error_code ignored;
   if (!std::filesystem::exists(path, ignored)) {
     throw RuntimeError(error_number::kFileNotFound, fmt::format("There is no file '{}'.", path));
@@ -180,27 +183,30 @@ CsvFile CsvFile::Read(const std::string& path) {
   if (!file || std::filesystem::is_directory(path, ignored)) {
     Refuse(fmt::format("The file '{}' can't be read.", path));
   }
-  // One byte more than is allowed tells that there is more, for pipes too.
-  std::string bytes(kMaxBytes + 1, '\0');
-  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  // By blocks, since the size of a pipe isn't known.
+  std::string bytes;
+  std::array<char, 1U << 16U> block{};
+  while (file && bytes.size() <= kMaxBytes) {
+    file.read(block.data(), block.size());
+    bytes.append(block.data(), static_cast<std::size_t>(file.gcount()));
+  }
   if (file.bad()) {
     Refuse(fmt::format("The file '{}' can't be read.", path));
   }
-  bytes.resize(static_cast<std::size_t>(file.gcount()));
   if (bytes.size() > kMaxBytes) {
     Refuse(fmt::format("The file '{}' is larger than {} megabytes.", path, kMaxBytes >> 20U));
   }
-  return Parse(bytes, path);
+  return Parse(bytes, path, blanks);
 }
 
-CsvFile CsvFile::Parse(std::string_view bytes, const std::string& name) {
+CsvFile CsvFile::Parse(std::string_view bytes, const std::string& name, CsvBlanks blanks) {
   if (bytes.find('\0') != std::string_view::npos) {
     Refuse(fmt::format("'{}' is no CSV file. Please save the sheet as CSV, in UTF-8.", name));
   }
-  const std::string text = Prepare(bytes);
+  const std::string text = Prepare(bytes, blanks);
   RowCollector collector(text);
   try {
-    RunParser(text, collector);
+    RunParser(text, blanks, collector);
   } catch (const std::exception&) {
     Refuse(fmt::format("{}, line {}: a quoted cell doesn't end where the next cell begins.",
                        GetNamePart(name), collector.Line()));

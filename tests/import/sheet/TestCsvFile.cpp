@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "basic/RuntimeError.h"
-#include "import/CsvFile.h"
+#include "import/sheet/CsvFile.h"
 
 namespace lorvane {
 namespace {
@@ -58,6 +58,11 @@ TEST(CsvFile, ReadsWhatSpreadsheetsWrite) {
   for (const auto& one : cases) {
     EXPECT_EQ(CellsOf(CsvFile::Parse(one.bytes, "x.csv")), one.rows) << one.what;
   }
+}
+
+TEST(CsvFile, KeepsBlanksWhenWished) {
+  EXPECT_EQ(CellsOf(CsvFile::Parse(" a , \"b, c\"\n  \n\"d \" , ,e\n", "x.csv", CsvBlanks::kKept)),
+            (Rows{{" a ", " \"b", " c\""}, {"d ", " ", "e"}}));
 }
 
 TEST(CsvFile, TellsTheLineOfARow) {
