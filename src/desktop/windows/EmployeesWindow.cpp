@@ -68,14 +68,9 @@ EmployeesWindow::EmployeesWindow(frmEmployees& screen, ScreenGate& gate, QWidget
   const auto& titles = screen.sstEmployees.Titles();
   pages->addTab(GeneralForm(binder_, screen), QString::fromStdString(titles[0]));
   pages->addTab(IndustryForm(binder_, screen), QString::fromStdString(titles[1]));
-  auto* middle = new QHBoxLayout;
-  middle->addWidget(PeopleNames(binder_, screen.list));
-  middle->addWidget(pages, 1);
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(tools);
-  layout->addLayout(middle, 1);
-  layout->addLayout(ButtonRow({&screen.buttons.cmdAdd, &screen.buttons.cmdApply,
-                               &screen.buttons.cmdOK, &screen.buttons.cmdClose}));
+  PeopleButtons& foot = screen.buttons;
+  LayOutPeople(*this, tools, PeopleNames(binder_, screen.list), pages,
+               ButtonRow({&foot.cmdAdd, &foot.cmdApply, &foot.cmdOK, &foot.cmdClose}));
 }
 
 }  // namespace lorvane

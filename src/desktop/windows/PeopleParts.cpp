@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QShortcut>
@@ -68,6 +69,17 @@ QGroupBox* PeopleIndustries(WindowBinder& binder, IndustryBoxes& boxes) {
     column->addWidget(binder.Make(boxes.Box(slot)));
   }
   return group;
+}
+
+void LayOutPeople(QWidget& window, QWidget* tools, QWidget* names, QWidget* fields,
+                  QLayout* buttons) {
+  auto* middle = new QHBoxLayout;
+  middle->addWidget(names);
+  middle->addWidget(fields, 1);
+  auto* layout = new QVBoxLayout(&window);
+  layout->addWidget(tools);
+  layout->addLayout(middle, 1);
+  layout->addLayout(buttons);
 }
 
 }  // namespace lorvane

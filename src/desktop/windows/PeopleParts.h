@@ -4,6 +4,7 @@
 #include "people/PeopleScreen.h"
 
 class QGroupBox;
+class QLayout;
 
 namespace lorvane {
 
@@ -15,5 +16,9 @@ namespace lorvane {
 [[nodiscard]] QWidget* PeopleNames(WindowBinder& binder, ListBox& list);
 /// The industries that a person works in: one box for each of the company's.
 [[nodiscard]] QGroupBox* PeopleIndustries(WindowBinder& binder, IndustryBoxes& boxes);
+
+/// Puts a window together: the tools above, the names beside the fields, the buttons below.
+void LayOutPeople(QWidget& window, QWidget* tools, QWidget* names, QWidget* fields,
+                  QLayout* buttons);
 
 }  // namespace lorvane

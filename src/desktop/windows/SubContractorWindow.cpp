@@ -1,8 +1,8 @@
 #include "desktop/windows/SubContractorWindow.h"
 
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "desktop/binder/FormGrid.h"
 #include "desktop/windows/PeopleParts.h"
@@ -29,19 +29,16 @@ SubContractorWindow::SubContractorWindow(frmSubContractor& screen, ScreenGate& g
   terms.Row({&screen.txtPercent, &screen.txtExpiry, &screen.cmdDateSelect});
   contract->setLayout(terms.Layout());
 
-  auto* right = new QVBoxLayout;
+  auto* fields = new QWidget;
+  auto* right = new QVBoxLayout(fields);
+  right->setContentsMargins(0, 0, 0, 0);
   right->addLayout(business.Layout());
   right->addWidget(contract);
   right->addWidget(PeopleIndustries(binder_, screen.chkInd));
   right->addStretch(1);
-  auto* middle = new QHBoxLayout;
-  middle->addWidget(PeopleNames(binder_, screen.list));
-  middle->addLayout(right, 1);
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(tools);
-  layout->addLayout(middle, 1);
-  layout->addLayout(ButtonRow({&screen.buttons.cmdAdd, &screen.buttons.cmdApply,
-                               &screen.buttons.cmdOK, &screen.buttons.cmdClose}));
+  PeopleButtons& foot = screen.buttons;
+  LayOutPeople(*this, tools, PeopleNames(binder_, screen.list), fields,
+               ButtonRow({&foot.cmdAdd, &foot.cmdApply, &foot.cmdOK, &foot.cmdClose}));
 }
 
 }  // namespace lorvane
