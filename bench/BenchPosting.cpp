@@ -3,44 +3,15 @@
 
 #include <fmt/format.h>
 
-#include <numeric>
-#include <stdexcept>
-#include <vector>
-
 #include "BareFile.h"
 #include "CompanyFiles.h"
 #include "Comparison.h"
-#include "OpenCompany.h"
-#include "payments/frmSelectAssessment.h"
-#include "payments/frmSelectDate.h"
+#include "Posting.h"
 
 namespace lorvane {
 namespace {
 
 constexpr int kEmployees = 1000;
-constexpr DateTime kPostingDay{2026, 1, 19};
-
-double Ours(const CompanyFiles& files) {
-  OpenCompany company(files.FreshCopy());
-  company.Services().OnModal("frmSelectDate", [](Screen& screen) {
-    auto& dialog = dynamic_cast<frmSelectDate&>(screen);
-    dialog.calDate.UserPick(kPostingDay);
-    dialog.cmdOK.UserClick();
-  });
-  frmSelectAssessment window(company.Context());
-  company.Services().Show(window);
-  window.lstIndustries.UserSelect(0);
-  std::vector<int> rows(window.lvwPayments.Rows().size());
-  std::iota(rows.begin(), rows.end(), 0);
-  window.lvwPayments.UserSelectRows(rows);
-  const double seconds = SecondsOf([&] { window.menus.cmdTbrPost.UserClick(); });
-  const ResultTable posted =
-      company.GetSession().gDataConn->Connection().Query("SELECT TransactionId FROM tblEmpHistory");
-  if (posted.rows.size() != kEmployees) {
-    throw std::runtime_error("the payments weren't posted");
-  }
-  return seconds;
-}
 
 // The statements that the posting composes, with what it reads fetched.
 double Bare(const CompanyFiles& files) {
@@ -81,5 +52,7 @@ int main(int argc, char** argv) {
   using namespace lorvane;
   const CompanyFiles files(kEmployees, 0);
   return RunComparison(
-      argc, argv, {"posting 1,000 rows", [&] { return Ours(files); }, [&] { return Bare(files); }});
+      argc, argv,
+      {"posting 1,000 rows", [&] { return SecondsOfPosting(files.FreshCopy(), kEmployees); },
+       [&] { return Bare(files); }});
 }
