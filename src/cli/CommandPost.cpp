@@ -37,19 +37,21 @@ int RunPost(const CommandOptions& options, const PostOptions& post) {
   program.OpenCompanyForPayments();
   const std::string count = std::string("SELECT Count(*) AS Rows FROM ") +
                             (post.payees.employees ? "tblEmpHistory" : "tblSubHistory");
-  const auto before = std::get<std::int32_t>(program.QueryValue(count));
+  std::int32_t before = 0;
+  std::int32_t after = 0;
   bool posted = false;
   int entries = 0;
   PaymentWindow::Open(program, post.payees, [&](PaymentWindow& window) {
     const std::vector<int> rows = RowsOf(window, post);
     window.ShowSavedAmounts();
     entries = window.EntriesIn(rows);
+    before = std::get<std::int32_t>(program.QueryValue(count));
     posted = window.Post(rows, date->Day());
+    after = std::get<std::int32_t>(program.QueryValue(count));
   });
   if (!posted) {
     return 1;
   }
-  const auto after = std::get<std::int32_t>(program.QueryValue(count));
   if (after - before < entries) {
     throw CommandFailure("Only " + std::to_string(after - before) + " of " +
                          std::to_string(entries) +

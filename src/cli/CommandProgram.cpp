@@ -34,6 +34,10 @@ void CommandProgram::OpenCompany() {
   OpenFile();
   const std::string table = VerifyCompanyTables(Context());
   if (!table.empty()) {
+    if (Connection().HasTable(table)) {
+      // One that can't be read says why.
+      static_cast<void>(Connection().Query("SELECT * FROM " + table));
+    }
     throw CommandFailure("The table " + table + " of '" + file_ +
                          "' has a shape that this program doesn't know.");
   }

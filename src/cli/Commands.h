@@ -68,7 +68,8 @@ struct ReportOptions {
 int RunNew(const CommandOptions& options);
 int RunShow(const CommandOptions& options, bool asJson);
 int RunList(const CommandOptions& options, const ListOptions& people);
-int RunCheck(const CommandOptions& options);
+/// `deep` checks the books, too.
+int RunCheck(const CommandOptions& options, bool deep);
 int RunSql(const CommandOptions& options, const std::string& statement);
 int RunImportSheet(const CommandOptions& options, const ImportOptions& import);
 /// Copies the sub-contractors of another company's data file.

@@ -94,6 +94,14 @@ std::int64_t CountOf(EngineConnection& connection, const std::string& statement)
                             : static_cast<std::int64_t>(NullToDouble(table.rows.front().front()));
 }
 
+bool HasKeyCounters(EngineConnection& connection) {
+  if (!connection.HasTable("tblTableIDs")) {
+    return false;
+  }
+  const std::vector<Column> columns = connection.ColumnsOf("tblTableIDs");
+  return FindColumn(columns, "TableName") != nullptr && FindColumn(columns, "NextId") != nullptr;
+}
+
 // Every table that takes its keys from a counter; scratch tables and the counters have none.
 std::vector<std::string> CheckKeyCounters(EngineConnection& connection) {
   constexpr std::array tables{"tblCompany",    "tblEmployees",  "tblSubContract", "tblEmpHistory",
@@ -108,6 +116,10 @@ std::vector<std::string> CheckKeyCounters(EngineConnection& connection) {
     if (counter.rows.size() != 1) {
       findings.push_back("The table " + table + " has " + std::to_string(counter.rows.size()) +
                          " key counters instead of one.");
+      continue;
+    }
+    if (IsNull(counter.rows.front().front())) {
+      findings.push_back("The key counter of " + table + " is empty, so that every new key is 1.");
       continue;
     }
     const std::vector<Column> columns = connection.ColumnsOf(table);
@@ -170,15 +182,16 @@ std::vector<std::string> CheckAssessmentSettings(const Session& session) {
   return findings;
 }
 
-std::vector<std::string> CheckCompany(const Session& session) {
+CompanyFindings CheckCompany(const Session& session) {
   EngineConnection& connection = session.gDataConn->Connection();
   std::vector<std::string> findings = connection.CheckIntegrity();
   if (!findings.empty()) {
     findings.insert(findings.begin(), "The file " + session.gDataConn->DataSource +
                                           " is damaged. What was found in it:");
-    return findings;
+    return {findings, false};
   }
-  Append(findings, CheckSchema(connection));
+  findings = CheckSchema(connection);
+  const bool tablesAreWhole = findings.empty();
   if (connection.HasTable("tblIndustries")) {
     const std::int64_t rows = CountOf(connection, "SELECT Count(*) AS Rows FROM tblIndustries");
     if (rows != 1) {
@@ -186,7 +199,7 @@ std::vector<std::string> CheckCompany(const Session& session) {
                          " rows instead of one.");
     }
   }
-  if (connection.HasTable("tblTableIDs")) {
+  if (HasKeyCounters(connection)) {
     Append(findings, CheckKeyCounters(connection));
   }
   Append(findings, CheckAssessmentSettings(session));
@@ -194,7 +207,7 @@ std::vector<std::string> CheckCompany(const Session& session) {
     Append(findings, CheckKeyOrder(session, kRemittance, kRemittanceKeys));
     Append(findings, CheckEmployerOptions(session));
   }
-  return findings;
+  return {findings, tablesAreWhole};
 }
 
 }  // namespace lorvane

@@ -35,8 +35,13 @@ void PaymentWindow::Open(CommandProgram& program, const PayeeOptions& payees,
   program.Services().OnModal("frmSelectAssessment", [&](Screen& screen) {
     PaymentWindow window(program, dynamic_cast<frmSelectAssessment&>(screen), payees);
     window.Choose();
+    // Saving writes every row of the list: what another program had written since the list was
+    // read would be lost. So nobody else writes until this is done, and the list is read again.
+    const auto batch = program.GetSession().gDataConn->MakeBatch();
+    window.ReadAgain();
     work(window);
     window.window_.RefreshList();  // nothing is left unsaved, so that closing asks nothing
+    Commit(batch);
   });
   program.Services().OpenScreen("frmSelectAssessment", {});
 }
@@ -55,6 +60,11 @@ void PaymentWindow::Choose() {
   program_.RaiseEngineError();
   paymentPlace_ =
       payees_.employees ? EmployeeList::kPaymentPlace : SubContractorList::kPaymentPlace;
+}
+
+void PaymentWindow::ReadAgain() {
+  window_.RefreshList();
+  program_.RaiseEngineError();
   for (int row = 0; row < window_.lvwPayments.Count(); ++row) {
     rowsById_[ToLong(window_.lvwPayments.Cell(row, 0))] = row;
   }

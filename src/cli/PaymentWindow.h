@@ -18,7 +18,8 @@ namespace lorvane {
 class PaymentWindow {
  public:
   /// Opens the window of the program's company, chooses kind of payee and industry, and lets `work`
-  /// act on it. Raises CommandFailure when the industry isn't in use.
+  /// act on it, while no other program can write to the data file. Raises CommandFailure when the
+  /// industry isn't in use.
   static void Open(CommandProgram& program, const PayeeOptions& payees,
                    const std::function<void(PaymentWindow&)>& work);
 
@@ -41,6 +42,7 @@ class PaymentWindow {
  private:
   PaymentWindow(CommandProgram& program, frmSelectAssessment& window, PayeeOptions payees);
   void Choose();
+  void ReadAgain();
   [[nodiscard]] const std::string& PaymentText(int row) const;
 
   CommandProgram& program_;

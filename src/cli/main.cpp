@@ -114,8 +114,11 @@ class CommandLine {
   }
 
   void AddCheck() {
-    AddFile(AddCommand("check", "Check data file, tables, key counters and configuration file",
-                       [this] { return RunCheck(options_); }));
+    CLI::App* command =
+        AddCommand("check", "Check data file, tables, key counters and configuration file",
+                   [this] { return RunCheck(options_, deep_); });
+    AddFile(command);
+    command->add_flag("--deep", deep_, "Check the books, too: payments, wages and ceilings");
   }
 
   void AddSql() {
@@ -273,6 +276,7 @@ class CommandLine {
   std::function<int()> command_;
   CommandOptions options_;
   bool json_ = false;
+  bool deep_ = false;
   ListOptions list_;
   std::string statement_;
   ImportOptions import_;

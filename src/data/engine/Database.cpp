@@ -102,7 +102,7 @@ sqlite3_stmt* Database::Prepared(const std::string& sql) {
   }
   int code = SQLITE_OK;
   StatementPointer statement = Prepare(handle_, sql, code);
-  if (code == SQLITE_ERROR) {
+  if (code == SQLITE_ERROR && !TellsOfDamage(sqlite3_errmsg(handle_))) {
     throw RuntimeError(error_number::kEngineCommand,
                        std::string("The statement could not be run: ") + sqlite3_errmsg(handle_));
   }

@@ -25,13 +25,19 @@ RuntimeError ConstraintError(int extendedCode, const std::string& message) {
 
 }  // namespace
 
+bool TellsOfDamage(std::string_view message) {
+  constexpr std::string_view words = "malformed database schema";
+  return message.substr(0, words.size()) == words || message == sqlite3_errstr(SQLITE_ERROR);
+}
+
 RuntimeError ErrorOf(int extendedCode, const std::string& path, const std::string& message) {
   const auto failure = [](std::string description) {
     return RuntimeError(error_number::kEngineFailure, std::move(description));
   };
   // A function of the library's own that meets a full disk hands on the words and not the code.
   const bool wordsOfFullDisk = message == sqlite3_errstr(SQLITE_FULL);
-  switch (wordsOfFullDisk ? SQLITE_FULL : extendedCode & kPrimaryCode) {
+  const int code = TellsOfDamage(message) ? SQLITE_CORRUPT : extendedCode & kPrimaryCode;
+  switch (wordsOfFullDisk ? SQLITE_FULL : code) {
     case SQLITE_CONSTRAINT:
       return ConstraintError(extendedCode, message);
     case SQLITE_MISMATCH:
