@@ -13,6 +13,7 @@ namespace lorvane {
 
 class ReportPainter;
 class RuntimeError;
+class ScriptProgram;
 
 /// What a script's program is made from, at the start and again by each restart.
 struct ScriptStage {
@@ -23,6 +24,9 @@ struct ScriptStage {
   std::function<void(ScreenContext, const RuntimeError&)> endOnError;
   /// What paints reports; null for a program without fonts.
   ReportPainter* painter = nullptr;
+  /// Looks on after each line that was carried out, given by its number, while the program runs. It
+  /// raises ScriptFailure for what must not be. Empty when nobody looks on.
+  std::function<void(ScriptProgram&, int)> afterLine;
 };
 
 /// A running program with its main window, driven by a script. What is still open at its end is

@@ -169,6 +169,9 @@ void ScriptRunner::RunLines(const Screen* window) {
 void ScriptRunner::RunLine(const ScriptLine& line) {
   try {
     Act(line);
+    if (stage_.afterLine && program_ != nullptr) {
+      stage_.afterLine(*program_, line.number);
+    }
   } catch (ScriptFailure& failure) {
     failure.line = failure.line == 0 ? line.number : failure.line;
     throw;
