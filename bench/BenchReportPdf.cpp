@@ -42,8 +42,12 @@ double Ours(const CompanyFiles& files, PagedReport& pages) {
   return seconds;
 }
 
-double Bare(const PagedReport& pages) {
+// Paints what ours has laid out.
+double Bare(const CompanyFiles& files, PagedReport& pages) {
   constexpr int kResolution = 72;
+  if (pages.pages.empty()) {
+    Ours(files, pages);
+  }
   QByteArray bytes;
   return SecondsOf([&] {
     QBuffer buffer(&bytes);
@@ -69,8 +73,7 @@ int main(int argc, char** argv) {
   const QGuiApplication application(argc, argv);
   const CompanyFiles files(kEmployees, kHistoryRows);
   PagedReport pages;
-  Ours(files, pages);
   return RunComparison(argc, argv,
                        {"report of 30,000 rows as PDF", [&] { return Ours(files, pages); },
-                        [&] { return Bare(pages); }});
+                        [&] { return Bare(files, pages); }});
 }

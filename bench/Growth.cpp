@@ -65,10 +65,8 @@ double YearEnd(const CompanyFiles& files) {
 
 double MedianMilliseconds(const Measure& measure, const CompanyFiles& files) {
   constexpr double kMilliseconds = 1000;
-  std::vector<double> seconds;
-  for (int round = 0; round < kRounds; ++round) {
-    seconds.push_back(measure.run(files));
-  }
+  std::vector<double> seconds(kRounds);
+  std::generate(seconds.begin(), seconds.end(), [&] { return measure.run(files); });
   const auto middle = seconds.begin() + kRounds / 2;
   std::nth_element(seconds.begin(), middle, seconds.end());
   return *middle * kMilliseconds;
