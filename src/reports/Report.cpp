@@ -48,10 +48,7 @@ std::unique_ptr<DataConnection> Report::OpenTables(const DataConnection& session
   connection->DataSource = table.location;
   connection->Password = table.passwords.substr(table.passwords.find('\n') + 1);
   connection->ReadOnly = session.ReadOnly;
-  if (!connection->DataOpen()) {
-    const EngineError error = connection->Errors().front();
-    throw RuntimeError(error.number, error.description);
-  }
+  connection->OpenOrRaise();
   return connection;
 }
 
