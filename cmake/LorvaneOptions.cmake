@@ -18,6 +18,11 @@ if(LORVANE_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(LORVANE_COVERAGE)
+  add_compile_options(--coverage -fprofile-update=atomic -O0)
+  add_link_options(--coverage)
+endif()
+
 if(LORVANE_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -O1)
   add_link_options(-fsanitize=address,undefined)

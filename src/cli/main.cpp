@@ -180,7 +180,7 @@ class CommandLine {
   }
 
   static void AddOutput(CLI::App* command, std::string& path) {
-    command->add_option("-o,--output", path, "A file ending in .xlsx, .csv or .txt");
+    command->add_option("-o,--output", path, "A file ending in .pdf, .xlsx, .csv or .txt");
   }
 
   void AddReport() {

@@ -1,11 +1,13 @@
 #include "company/modNewCompany.h"
 
 #include <array>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
+#include "data/DataFileParts.h"
 #include "data/IniDocument.h"
 #include "screen/ScreenServices.h"
 #include "screen/Session.h"
@@ -79,9 +81,9 @@ std::string FaultOf(DataConnection& connection) {
   return faults.empty() ? std::string() : faults.front();
 }
 
-void RemoveQuietly(Files& files, const std::string& path) {
+void RemoveQuietly(const std::function<void()>& remove) {
   try {
-    files.Remove(path);
+    remove();
   } catch (const RuntimeError&) {
     // The failure that led here has been told.
   }
@@ -91,6 +93,9 @@ void RemoveQuietly(Files& files, const std::string& path) {
 
 bool CopyTemplateDatabase(ScreenContext context, const std::string& destination) {
   try {
+    if (const auto log = FindLogOf(context.session.files, destination)) {
+      throw RuntimeError(error_number::kFileAlreadyExists, "'" + *log + "' is there already.");
+    }
     context.session.files.Copy(context.session.programFolder + "/Resource/Template/Data.mdb",
                                destination);
     return true;
@@ -130,7 +135,7 @@ bool MakeCompanyFiles(ScreenContext context, const std::string& dataFile) {
     WriteConfigFile(context, dataFile);
     return true;
   } catch (const RuntimeError& error) {
-    RemoveQuietly(session.files, dataFile);
+    RemoveQuietly([&] { session.files.Remove(dataFile); });
     session.gConfigFile = configFile;
     session.gDataConn->DataSource = dataSource;
     ShowError(context, error, box::kExclamation);
@@ -147,8 +152,8 @@ bool OpenNewCompany(ScreenContext context, const std::string& dataFile) {
     return true;
   }
   session.gDataConn->DataClose();
-  RemoveQuietly(session.files, dataFile);
-  RemoveQuietly(session.files, ConfigFileOf(dataFile));
+  RemoveQuietly([&] { RemoveDataFile(session.files, dataFile); });
+  RemoveQuietly([&] { session.files.Remove(ConfigFileOf(dataFile)); });
   ShowError(context, RuntimeError(error_number::kEngineFailure, fault), box::kCritical);
   return false;
 }

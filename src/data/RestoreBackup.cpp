@@ -8,6 +8,7 @@
 #include "basic/Text.h"
 #include "data/Backups.h"
 #include "data/CheckedCopy.h"
+#include "data/DataFileParts.h"
 
 namespace lorvane {
 namespace {
@@ -45,7 +46,7 @@ class NewFiles {
   ~NewFiles() {
     try {
       for (const std::string& path : paths_) {
-        files_.Remove(path);
+        RemoveDataFile(files_, path);
       }
       if (folder_) {
         files_.RemoveFolder(*folder_);
@@ -78,7 +79,7 @@ class NewFiles {
 // The log of another data file would be taken for that of the restored one.
 void RequireNoCompany(Files& files, const std::string& dataFile, const std::string& config) {
   for (const std::string& path :
-       {dataFile, dataFile + "-wal", dataFile + "-journal", FindWithoutCase(config)}) {
+       {dataFile, FindLogOf(files, dataFile).value_or(dataFile), FindWithoutCase(config)}) {
     if (files.Exists(path)) {
       throw RuntimeError(error_number::kFileAlreadyExists,
                          "'" + path +

@@ -11,10 +11,13 @@ namespace {
 void CheckTable(ScreenContext context, bool (cAppUpdates::*check)(), bool (cAppUpdates::*add)()) {
   context.services.SetPointer(pointer::kHourglass);
   cAppUpdates updates(*context.session.gDataConn);
+  bool told = false;
   updates.OnError = [&](const RuntimeError& error) {
     ShowError(context, error, box::kExclamation);
+    told = true;
   };
-  if (!(updates.*check)()) {
+  // A counter that only couldn't be read would get a second one beside it.
+  if (!(updates.*check)() && !told) {
     (updates.*add)();
   }
   context.services.SetPointer(pointer::kDefault);

@@ -5,15 +5,10 @@
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
 #include "data/CheckedCopy.h"
+#include "data/DataFileParts.h"
 
 namespace lorvane {
 namespace {
-
-void RemoveCopy(Files& files, const std::string& copy) {
-  for (const char* companion : {"-journal", "-wal", "-shm", ""}) {
-    files.Remove(copy + companion);
-  }
-}
 
 std::string WithThousands(std::uintmax_t number) {
   constexpr std::size_t kGroup = 3;
@@ -46,7 +41,7 @@ Compaction CompactDataFile(const DataConnection& connection, Files& files) {
     std::unique_ptr<DataConnection> opened = OpenCopy(connection, file);
     begun = true;
     // What a compaction that was killed may have left.
-    RemoveCopy(files, copy);
+    RemoveDataFile(files, copy);
     opened->Connection().WriteCompactCopy(copy);
     RequireSameContent("The compacted copy", OpenCopy(connection, copy)->Connection(),
                        opened->Connection());
@@ -61,7 +56,7 @@ Compaction CompactDataFile(const DataConnection& connection, Files& files) {
   }
   if (begun && !compaction.done) {
     try {
-      RemoveCopy(files, copy);
+      RemoveDataFile(files, copy);
     } catch (const RuntimeError&) {
       // The next compaction tries again.
       return compaction;
