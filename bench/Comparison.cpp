@@ -65,6 +65,12 @@ double PeakMegabytes() {
   return static_cast<double>(usage.ru_maxrss) / kKilobytesInMegabyte;
 }
 
+int RunOnce(const Comparison& comparison, std::string_view side) {
+  static_cast<void>(side == kOurs ? comparison.ours() : comparison.bare());
+  std::cout << comparison.name << '\n';
+  return 0;
+}
+
 }  // namespace
 
 double SecondsOf(const std::function<void()>& operation) {
@@ -74,6 +80,9 @@ double SecondsOf(const std::function<void()>& operation) {
 }
 
 int RunComparison(int argc, char** argv, const Comparison& comparison) {
+  if (argc == 3 && argv[1] == std::string_view("--once")) {
+    return RunOnce(comparison, argv[2]);
+  }
   // Turns spread what else the machine does over both sides.
   std::string inTurns = "--benchmark_enable_random_interleaving=true";
   std::vector<char*> arguments(argv, argv + argc);

@@ -18,7 +18,9 @@ struct Comparison {
 
 /// Measures both sides in turns and prints a row of a Markdown table to standard output: name,
 /// medians of both sides, their ratio, and the most memory that the process ever held. Google
-/// Benchmark's own report goes to standard error. The result is an exit status.
+/// Benchmark's own report goes to standard error. With the arguments "--once ours" or "--once bare"
+/// that side runs once and the name alone is printed, for a tool that counts instructions between
+/// the beginning and the end of SecondsOf. The result is an exit status.
 int RunComparison(int argc, char** argv, const Comparison& comparison);
 
 }  // namespace lorvane

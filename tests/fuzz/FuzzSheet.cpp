@@ -1,8 +1,10 @@
 // Whatever a file holds, reading it as a spreadsheet gives cells or a refusal. The first byte tells
-// where the rest goes: it is the whole file, or what lies under the wrapping of a workbook.
+// where the rest goes, of what LORVANE_FUZZ_KINDS names: it is the whole file, or what lies under
+// the wrapping of a workbook.
 
 #include <unistd.h>
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -18,6 +20,9 @@ namespace lorvane {
 namespace {
 
 enum class Kind : std::uint8_t { kFile, kXlsxSheet, kXlsxStyles, kXlsxTexts, kOds, kXls };
+using enum Kind;
+
+constexpr std::array kKinds{LORVANE_FUZZ_KINDS};
 
 std::string Path() {
   return std::filesystem::temp_directory_path() / ("lorvane-fuzz." + std::to_string(getpid()));
@@ -68,7 +73,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   const std::string bytes(data + 1, data + size);
   static const std::string path = Path();
-  Write(path, static_cast<Kind>(data[0] % 6), bytes);
+  Write(path, kKinds[data[0] % kKinds.size()], bytes);
   try {
     const Spreadsheet sheet = ReadSpreadsheet(path);
     for (std::size_t row = 1; row <= sheet.RowCount(); ++row) {

@@ -1,4 +1,4 @@
-// Writes the seeds of fuzz_sheet that are no text into a folder.
+// Writes the seeds that are no text, each into the folder of its target under the folder given.
 
 #include <fstream>
 #include <iterator>
@@ -27,14 +27,14 @@ void WriteSeeds(const std::string& folder) {
   old.AddFormula(1, 0, 2.5);
   old.AddFormula(1, 1, "text");
   old.AddFlag(2, 0, true);
-  put("old-file", '\0', old.Bytes());
-  put("old-stream", '\5', old.Bytes().substr(kStreamAt));
+  put("xls/file", '\0', old.Bytes());
+  put("xls/stream", '\1', old.Bytes().substr(kStreamAt));
   const TemporaryFolder temporary;
   const std::string file = temporary.File("sheet");
   WriteXlsx(file, {{"text", 1.0, true, DateTime{2026, 1, 5}}});
-  put("xlsx-file", '\0', BytesOf(file));
+  put("xlsx/file", '\0', BytesOf(file));
   WriteZip(file, OdsEntries({"<table:table-row/>"}, "Sheet1"));
-  put("ods-file", '\0', BytesOf(file));
+  put("ods/file", '\0', BytesOf(file));
 }
 
 }  // namespace

@@ -120,12 +120,22 @@ TEST_F(SpreadsheetFile, ReadsOldWorkbooks) {
   book.AddFormula(0, 3, 0.25);
   book.AddFormula(0, 4, "worked out");
   book.AddFlag(2, 0, true);
+  book.AddOwnText(3, 0, "na\xEFve");
+  book.AddError(3, 1, 0x07);
+  book.AddError(3, 2, 0x2A);
+  // A whole number, one in hundredths, and the upper half of a double, in hundredths as well.
+  book.AddPacked(4, 0, (7U << 2U) | 2U);
+  book.AddPacked(4, 1, (static_cast<std::uint32_t>(-12345) << 2U) | 3U);
+  book.AddPacked(4, 2, 0x40290000U);
+  book.AddPacked(4, 3, 0x40290001U);
   book.Front = 1;
   book.Write(Path());
   const Spreadsheet sheet = ReadSpreadsheet(Path());
   EXPECT_EQ(RowText(sheet, 1), "Côté|number 46454286|date 1/5/2026|number 0.25|worked out");
   EXPECT_EQ(RowText(sheet, 3), "flag True");
-  EXPECT_EQ(sheet.RowCount(), 3U);
+  EXPECT_EQ(RowText(sheet, 4), "naïve|error #DIV/0!|error #N/A");
+  EXPECT_EQ(RowText(sheet, 5), "number 7|number -123.45|number 12.5|number 0.125");
+  EXPECT_EQ(sheet.RowCount(), 5U);
 }
 
 TEST_F(SpreadsheetFile, ReadsTextWithItsEmptyLines) {

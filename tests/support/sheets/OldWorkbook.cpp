@@ -72,6 +72,18 @@ void OldWorkbook::AddFlag(int row, int column, bool flag) {
   sheets_.back() += Record(0x0205, At(row, column, 0) + (flag ? '\x01' : '\0') + '\0');
 }
 
+void OldWorkbook::AddOwnText(int row, int column, const std::string& latin1) {
+  sheets_.back() += Record(0x0204, At(row, column, 0) + LongText(latin1));
+}
+
+void OldWorkbook::AddError(int row, int column, unsigned code) {
+  sheets_.back() += Record(0x0205, At(row, column, 0) + Low(code, 1) + '\x01');
+}
+
+void OldWorkbook::AddPacked(int row, int column, std::uint32_t packed) {
+  sheets_.back() += Record(0x027E, At(row, column, 0) + Four(packed));
+}
+
 void OldWorkbook::AddFormula(int row, int column, double value) {
   sheets_.back() += Formula(row, column, Eight(value));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,12 @@ class OldWorkbook {
   /// Characters of Latin-1 alone.
   void AddText(int row, int column, const std::string& latin1);
   void AddFlag(int row, int column, bool flag);
+  /// A text that stands in its cell, not among the workbook's shared ones.
+  void AddOwnText(int row, int column, const std::string& latin1);
+  /// By the code that cells know: 0x07 for a division by zero.
+  void AddError(int row, int column, unsigned code);
+  /// A number as four bytes: see the last two bits.
+  void AddPacked(int row, int column, std::uint32_t packed);
   /// A formula with its value.
   void AddFormula(int row, int column, double value);
   void AddFormula(int row, int column, const std::string& latin1);
