@@ -1,5 +1,6 @@
 #include "desktop/MainWindow.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -30,8 +31,11 @@ QLabel* Panel(QStatusBar& bar, const char* name, const QString& said, int stretc
 
 }  // namespace
 
-MainWindow::MainWindow(frmMain& screen, ScreenGate& gate, StatusPanels& status)
-    : screen_(screen), status_(status), binder_(screen, gate, *this), ground_(new QMdiArea(this)) {
+MainWindow::MainWindow(frmMain& screen, ScreenGate& gate, ScreenContext context)
+    : screen_(screen),
+      context_(context),
+      binder_(screen, gate, *this),
+      ground_(new QMdiArea(this)) {
   constexpr int kWidth = 170;
   constexpr int kHeight = 48;
   ground_->setObjectName(QStringLiteral("ground"));
@@ -40,9 +44,14 @@ MainWindow::MainWindow(frmMain& screen, ScreenGate& gate, StatusPanels& status)
   MakeStatusBar();
   ListWindows();
   binder_.Finish();
-  panel_ = new StartPanel(binder_, ground_->viewport());
+  panel_ = new StartPanel(binder_, context, ground_->viewport());
+  panel_->OnOpenSample = [this] {
+    if (OnOpenSample) {
+      OnOpenSample();
+    }
+  };
   binder_.OnRefresh = [this] { Refresh(); };
-  status_.OnChanged = [this] { ShowStatus(); };
+  context_.session.status.OnChanged = [this] { ShowStatus(); };
   const QSize wanted(kWidth * fontMetrics().averageCharWidth(),
                      kHeight * fontMetrics().lineSpacing());
   resize(wanted.boundedTo(QWidget::screen()->availableSize()));
@@ -50,7 +59,7 @@ MainWindow::MainWindow(frmMain& screen, ScreenGate& gate, StatusPanels& status)
   Refresh();
 }
 
-MainWindow::~MainWindow() { status_.OnChanged = nullptr; }
+MainWindow::~MainWindow() { context_.session.status.OnChanged = nullptr; }
 
 // The Window menu ends with the windows that stand on the ground.
 void MainWindow::ListWindows() {
@@ -95,13 +104,30 @@ void MainWindow::Refresh() {
     open.remove(0, 5);
   }
   panel_->Refresh(open);
+  RefreshYear();
   PlacePanel();
 }
 
+void MainWindow::RefreshYear() {
+  // Not in the middle of work on the tables.
+  if (QApplication::activeModalWidget() != nullptr ||
+      context_.services.Pointer() == pointer::kHourglass) {
+    return;
+  }
+  const std::string file =
+      panel_->HasCompany() ? context_.session.gDataConn->DataSource : std::string();
+  if (!file.empty() && (yearIsOld_ || file != shownFile_)) {
+    panel_->RefreshYear();
+    yearIsOld_ = false;
+  }
+  shownFile_ = file;
+}
+
 void MainWindow::ShowStatus() {
-  message_->setText(ToQt(status_.Msg));
-  assessment_->setText(ToQt(status_.Assessment));
-  form_->setText(ToQt(status_.Form));
+  const StatusPanels& status = context_.session.status;
+  message_->setText(ToQt(status.Msg));
+  assessment_->setText(ToQt(status.Assessment));
+  form_->setText(ToQt(status.Form));
 }
 
 void MainWindow::PaintStatus() {
@@ -111,6 +137,7 @@ void MainWindow::PaintStatus() {
 
 void MainWindow::PlacePanel() {
   const QSize room = ground_->viewport()->size();
+  panel_->resize(panel_->sizeHint().boundedTo(room));
   panel_->move(std::max(0, (room.width() - panel_->width()) / 2),
                std::max(0, (room.height() - panel_->height()) / 2));
   const QPoint inner = ground_->mapTo(this, QPoint());

@@ -53,6 +53,7 @@ int QtServices::MsgBox(const std::string& text, int flags, const std::string& ti
   gate_.Flush();
   const UsualPointer usual;
   const int given = AskInBox(Front(), text, flags, title);
+  TellClosed();
   gate_.ThrowIfEnded();
   return given;
 }
@@ -113,6 +114,13 @@ void QtServices::RunModal(Screen& screen) {
   window.Present();
   gate_.RunLoop(loop);
   window.hide();
+  TellClosed();
+}
+
+void QtServices::TellClosed() {
+  if (main_ != nullptr) {
+    main_->TellClosed();
+  }
 }
 
 void QtServices::ShowModeless(Screen& screen) {
@@ -120,7 +128,7 @@ void QtServices::ShowModeless(Screen& screen) {
     splash_ = std::make_unique<SplashWindow>(*splash, gate_);
     splash_->show();
   } else if (auto* main = dynamic_cast<frmMain*>(&screen)) {
-    main_ = std::make_unique<MainWindow>(*main, gate_, session_.status);
+    main_ = std::make_unique<MainWindow>(*main, gate_, Context());
     main_->show();
   } else if (const auto found = open_.find(&screen); found != open_.end()) {
     main_->BringToFront(*found->second);
@@ -138,6 +146,7 @@ void QtServices::HideModeless(Screen& screen) {
     main_->Release(*found->second);
     found->second.release()->deleteLater();
     open_.erase(found);
+    TellClosed();
   }
 }
 

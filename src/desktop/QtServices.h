@@ -45,6 +45,7 @@ class QtServices : public ScreenHost {
  private:
   /// The window in front, over which the next one opens; null when there is none.
   [[nodiscard]] QWidget* Front() const;
+  void TellClosed();
 
   Session& session_;
   ScreenGate& gate_;

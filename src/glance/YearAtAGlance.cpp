@@ -1,0 +1,188 @@
+#include "glance/YearAtAGlance.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "basic/Number.h"
+#include "basic/RuntimeError.h"
+#include "company/cIndustry.h"
+#include "data/modDataAccess.h"
+#include "people/NoDate.h"
+
+namespace lorvane {
+namespace {
+
+constexpr int kLetterDays = 30;
+
+struct PayeeTables {
+  const char* payee;
+  const char* people;
+  const char* history;
+  /// Who has left is in no payment list.
+  const char* onlyThose;
+};
+
+constexpr std::array kPayees{
+    PayeeTables{"employee", "tblEmployees", "tblEmpHistory", " AND Inactive = 0"},
+    PayeeTables{"sub-contractor", "tblSubContract", "tblSubHistory", ""},
+};
+
+std::optional<DateTime> DateIn(const Value& value) {
+  if (const DateTime* date = std::get_if<DateTime>(&value)) {
+    return *date;
+  }
+  return ParseDate(NullToText(value));
+}
+
+int YearOf(const Session& session, const DateTime& today) {
+  constexpr int kEarliest = 1900;
+  try {
+    const int year = ToInteger(session.Ini().KeyGet("Assessment", "CurrentYear", "0"));
+    return year < kEarliest ? today.year : year;
+  } catch (const RuntimeError&) {
+    return today.year;
+  }
+}
+
+class GlanceReader {
+ public:
+  GlanceReader(const Session& session, const DateTime& today)
+      : connection_(session.gDataConn->MakeTwin()), today_(today.Day()) {
+    connection_->OpenOrRaise();
+    glance_.year = YearOf(session, today);
+  }
+
+  YearAtAGlance Read() {
+    ReadIndustries();
+    for (const PayeeTables& payees : kPayees) {
+      for (const IndustrySlot slot : kAllSlots) {
+        ReadPosted(payees, slot);
+        ReadWaiting(payees, slot);
+      }
+    }
+    ReadCeilings();
+    ReadClearances();
+    return std::move(glance_);
+  }
+
+ private:
+  using Row = std::vector<Value>;
+
+  std::vector<Row> Query(const std::string& statement) {
+    return connection_->Connection().Query(statement).rows;
+  }
+
+  void ReadIndustries() {
+    cIndustry industries;
+    industries.SetDataConnection(connection_.get());
+    if (!industries.OpenRecordset()) {
+      return;
+    }
+    glance_.used = industries.Ind;
+    glance_.descriptions = industries.Desc;
+  }
+
+  // A payday is one row, however many were paid.
+  void ReadPosted(const PayeeTables& payees, IndustrySlot slot) {
+    const std::string date = SlotName("PayDate", slot);
+    const std::string year = std::to_string(glance_.year);
+    for (const Row& row :
+         Query("SELECT " + date + ", Sum(" + SlotName("AssessAmt", slot) +
+               ") AS Assessable, Sum(Remittance) AS Assessment FROM " + payees.history + " WHERE " +
+               SlotName("Ind", slot) + " = -1 AND " + date + " >= #1/1/" + year + "# AND " + date +
+               " < #1/1/" + std::to_string(glance_.year + 1) + "# GROUP BY " + date)) {
+      const std::optional<DateTime> day = DateIn(row[0]);
+      if (day) {
+        glance_.months.at(static_cast<std::size_t>(day->month - 1))[slot] +=
+            YearSums{NullToCurrency(row[1]), NullToCurrency(row[2])};
+        glance_.used[slot] = true;
+      }
+    }
+  }
+
+  void ReadWaiting(const PayeeTables& payees, IndustrySlot slot) {
+    const std::string amount = SlotName("Amount", slot);
+    const std::vector<Row> rows = Query(
+        "SELECT Count(*) AS Entries, Sum(" + amount + ") AS Total FROM " + payees.people +
+        " WHERE " + SlotName("Ind", slot) + " = -1 AND " + amount + " <> 0" + payees.onlyThose);
+    const std::int32_t count = rows.empty() ? 0 : NullToLong(rows.front()[0]);
+    if (count > 0) {
+      glance_.waiting.push_back(
+          {payees.payee, slot, static_cast<std::size_t>(count), NullToCurrency(rows.front()[1])});
+    }
+  }
+
+  void ReadCeilings() {
+    constexpr std::int64_t kNear = 9;
+    constexpr std::int64_t kOf = 10;
+    for (const Row& row : Query("SELECT LastName, FirstName, AccWages, MaxContrib FROM "
+                                "tblEmployees WHERE Inactive = 0 AND MaxContrib > 0 AND AccWages > "
+                                "0")) {
+      const Currency wages = NullToCurrency(row[2]);
+      const Currency ceiling = NullToCurrency(row[3]);
+      if (wages.TenThousandths() / kNear >= ceiling.TenThousandths() / kOf) {
+        const std::string first = NullToText(row[1]);
+        glance_.nearCeiling.push_back(
+            {NullToText(row[0]) + (first.empty() ? "" : ", " + first), wages, ceiling});
+      }
+    }
+    const auto share = [](const NearCeiling& one) {
+      return one.wages.ToDouble() / one.ceiling.ToDouble();
+    };
+    std::stable_sort(glance_.nearCeiling.begin(), glance_.nearCeiling.end(),
+                     [&](const NearCeiling& left, const NearCeiling& right) {
+                       return share(left) > share(right);
+                     });
+  }
+
+  void ReadClearances() {
+    const DateTime none = ToDate(kNoDateStored);
+    const double last = SerialOf(today_) + kLetterDays;
+    for (const Row& row : Query("SELECT Name, Expiry FROM tblSubContract")) {
+      const std::optional<DateTime> expiry = DateIn(row[1]);
+      if (expiry && expiry->Day() != none && SerialOf(expiry->Day()) <= last) {
+        glance_.clearances.push_back({NullToText(row[0]), expiry->Day(), expiry->Day() < today_});
+      }
+    }
+    std::stable_sort(glance_.clearances.begin(), glance_.clearances.end(),
+                     [](const ClearanceDue& left, const ClearanceDue& right) {
+                       return left.expiry < right.expiry;
+                     });
+  }
+
+  std::unique_ptr<DataConnection> connection_;
+  DateTime today_;
+  YearAtAGlance glance_;
+};
+
+}  // namespace
+
+YearSums& YearSums::operator+=(const YearSums& other) {
+  assessable += other.assessable;
+  assessment += other.assessment;
+  return *this;
+}
+
+YearSums YearAtAGlance::TotalOf(IndustrySlot slot) const {
+  YearSums total;
+  for (const Month& month : months) {
+    total += month[slot];
+  }
+  return total;
+}
+
+YearSums YearAtAGlance::Total() const {
+  YearSums total;
+  for (const IndustrySlot slot : kAllSlots) {
+    total += TotalOf(slot);
+  }
+  return total;
+}
+
+YearAtAGlance ReadYearAtAGlance(const Session& session, const DateTime& today) {
+  return GlanceReader(session, today).Read();
+}
+
+}  // namespace lorvane
