@@ -15,6 +15,7 @@
 #include "Comparison.h"
 #include "OpenCompany.h"
 #include "Posting.h"
+#include "glance/YearAtAGlance.h"
 #include "payments/frmSelectAssessment.h"
 #include "reports/RemittanceFill.h"
 #include "shell/YearEndCommands.h"
@@ -58,6 +59,15 @@ double FillingAMonth(const CompanyFiles& files) {
   });
 }
 
+double YearAtOnce(const CompanyFiles& files) {
+  OpenCompany company(files.FreshCopy());
+  return SecondsOf([&] {
+    if (ReadYearAtAGlance(company.GetSession(), {2026, 11, 20}).Total().assessable == Currency()) {
+      throw std::runtime_error("the year is empty");
+    }
+  });
+}
+
 double YearEnd(const CompanyFiles& files) {
   OpenCompany company(files.FreshCopy());
   return SecondsOf([&] { RunYearEnd(company.Context(), "2026"); });
@@ -81,6 +91,7 @@ int main() {
                             Measure{"loading the list of 500 employees", LoadingTheList},
                             Measure{"posting 500 payments", Posting},
                             Measure{"remittance fill of a month", FillingAMonth},
+                            Measure{"the year at a glance", YearAtOnce},
                             Measure{"year end", YearEnd}};
   std::array<std::string, measures.size()> rows;
   std::string heading = "| payments on file |";

@@ -57,8 +57,8 @@ class GlanceReader {
   YearAtAGlance Read() {
     ReadIndustries();
     for (const PayeeTables& payees : kPayees) {
+      ReadPosted(payees);
       for (const IndustrySlot slot : kAllSlots) {
-        ReadPosted(payees, slot);
         ReadWaiting(payees, slot);
       }
     }
@@ -84,20 +84,33 @@ class GlanceReader {
     glance_.descriptions = industries.Desc;
   }
 
-  // A payday is one row, however many were paid.
-  void ReadPosted(const PayeeTables& payees, IndustrySlot slot) {
-    const std::string date = SlotName("PayDate", slot);
-    const std::string year = std::to_string(glance_.year);
-    for (const Row& row :
-         Query("SELECT " + date + ", Sum(" + SlotName("AssessAmt", slot) +
-               ") AS Assessable, Sum(Remittance) AS Assessment FROM " + payees.history + " WHERE " +
-               SlotName("Ind", slot) + " = -1 AND " + date + " >= #1/1/" + year + "# AND " + date +
-               " < #1/1/" + std::to_string(glance_.year + 1) + "# GROUP BY " + date)) {
-      const std::optional<DateTime> day = DateIn(row[0]);
-      if (day) {
+  // One pass over the history: a payday of an industry is one row, however many were paid.
+  void ReadPosted(const PayeeTables& payees) {
+    std::string keys;
+    std::string sums;
+    for (const IndustrySlot slot : kAllSlots) {
+      keys += SlotName("Ind", slot) + ", " + SlotName("PayDate", slot) + ", ";
+      sums += "Sum(" + SlotName("AssessAmt", slot) + ") AS " + SlotName("Sum", slot) + ", ";
+    }
+    const std::string grouping = keys.substr(0, keys.size() - 2);
+    for (const Row& row : Query("SELECT " + keys + sums + "Sum(Remittance) AS Assessment FROM " +
+                                payees.history + " GROUP BY " + grouping)) {
+      AddPosted(row);
+    }
+  }
+
+  // The assessment of a row belongs to the one industry that it is marked with.
+  void AddPosted(const Row& row) {
+    constexpr std::size_t kKeys = 2;
+    const std::size_t sums = kKeys * kAllSlots.size();
+    for (const IndustrySlot slot : kAllSlots) {
+      const std::size_t place = kKeys * IndexOf(slot);
+      const std::optional<DateTime> day = DateIn(row[place + 1]);
+      if (NullToBool(row[place]) && day && day->year == glance_.year) {
         glance_.months.at(static_cast<std::size_t>(day->month - 1))[slot] +=
-            YearSums{NullToCurrency(row[1]), NullToCurrency(row[2])};
+            YearSums{NullToCurrency(row[sums + IndexOf(slot)]), NullToCurrency(row.back())};
         glance_.used[slot] = true;
+        return;
       }
     }
   }
