@@ -5,8 +5,9 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 
-# The level that Debian builds its packages with.
-set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+# As Debian builds its packages.
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2")
+add_link_options($<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
 
 add_compile_options(
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion

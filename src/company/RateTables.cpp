@@ -6,6 +6,7 @@
 #include "basic/Number.h"
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
+#include "company/RatesFile.h"
 #include "data/Recordset.h"
 #include "data/Schema.h"
 #include "data/modDataAccess.h"
@@ -18,16 +19,18 @@ constexpr std::string_view kTable = "tbl";
 
 }  // namespace
 
-RateTables::RateTables(const Session& session) : dataConnection_(session.gDataConn->MakeAnother()) {
+RateTables::RateTables(const Session& session)
+    : session_(session), dataConnection_(session.gDataConn->MakeAnother()) {
   dataConnection_->SetProviderConst(DataConnection::kJet);
-  dataConnection_->DataSource = session.programFolder + "/Resource/Sic.mdb";
 }
 
 EngineConnection& RateTables::Connection() {
-  return dataConnection_->IsOpen() ? dataConnection_->Connection() : Open(true);
+  return dataConnection_->IsOpen() ? dataConnection_->Connection()
+                                   : Open(RatesToRead(session_), true);
 }
 
-EngineConnection& RateTables::Open(bool readOnly) {
+EngineConnection& RateTables::Open(const std::string& file, bool readOnly) {
+  dataConnection_->DataSource = file;
   dataConnection_->ReadOnly = readOnly;
   dataConnection_->OpenOrRaise();
   return dataConnection_->Connection();
@@ -61,7 +64,7 @@ std::vector<PublishedRate> RateTables::Read(const std::string& year) {
 }
 
 void RateTables::Replace(int year, const std::vector<PublishedRate>& rates) {
-  EngineConnection& connection = Open(false);
+  EngineConnection& connection = Open(RatesToChange(session_), false);
   const TableDefinition table = RateTable(year);
   const auto batch = dataConnection_->MakeBatch();
   if (Has(year)) {

@@ -20,8 +20,8 @@ struct PublishedRate {
   friend bool operator==(const PublishedRate&, const PublishedRate&) = default;
 };
 
-/// The database of published rates that comes with the program: one table a year. It is opened by
-/// the first operation that needs it. Every operation raises the engine's error when it fails.
+/// The database of published rates (see RatesFile.h): one table a year. It is opened by the first
+/// operation that needs it. Every operation raises the engine's error when it fails.
 class RateTables {
  public:
   /// The session outlives this object.
@@ -39,8 +39,9 @@ class RateTables {
  private:
   /// Open for reading at least.
   [[nodiscard]] EngineConnection& Connection();
-  EngineConnection& Open(bool readOnly);
+  EngineConnection& Open(const std::string& file, bool readOnly);
 
+  const Session& session_;
   std::unique_ptr<DataConnection> dataConnection_;
 };
 

@@ -16,12 +16,31 @@ DesktopProgram::DesktopProgram(Clock clock, ScreenGate::EndHandler onEnd)
 
 DesktopProgram::~DesktopProgram() { session_->gDataConn->DataClose(); }
 
-void DesktopProgram::Start() {
+void DesktopProgram::Start(const StartOrder& order) {
+  DoWhenReady(order);
   gate_.Run([this] { services_->OpenModeless("frmSplash"); });
 }
 
-void DesktopProgram::StartWithMainWindow() {
+void DesktopProgram::StartWithMainWindow(const StartOrder& order) {
+  DoWhenReady(order);
   gate_.Run([this] { services_->OpenModeless("frmMain"); });
+}
+
+void DesktopProgram::DoWhenReady(const StartOrder& order) {
+  services_->OnMainWindow = [this, order] {
+    services_->OnMainWindow = nullptr;
+    gate_.Run([this, &order] {
+      if (order.manual) {
+        services_->ShowHelp();
+      }
+      if (order.newCompany) {
+        services_->OpenModeless("frmCheckList");
+      }
+      if (!order.company.empty()) {
+        services_->OpenCompany(order.company);
+      }
+    });
+  };
 }
 
 }  // namespace lorvane

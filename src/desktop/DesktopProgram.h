@@ -3,10 +3,12 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include "data/Files.h"
 #include "data/engine/Engine.h"
 #include "desktop/QtServices.h"
+#include "desktop/StartOrder.h"
 #include "desktop/binder/ScreenGate.h"
 #include "screen/Session.h"
 #include "screen/SystemClock.h"
@@ -22,10 +24,10 @@ class DesktopProgram {
   DesktopProgram& operator=(const DesktopProgram&) = delete;
   ~DesktopProgram();
 
-  /// Shows the splash screen, which shows the main window.
-  void Start();
-  /// Shows the main window with no splash screen before it.
-  void StartWithMainWindow();
+  /// Shows the splash screen, which shows the main window; then does what was ordered.
+  void Start(const StartOrder& order = {});
+  /// The same with no splash screen before the main window.
+  void StartWithMainWindow(const StartOrder& order = {});
 
   [[nodiscard]] Session& GetSession() { return *session_; }
   [[nodiscard]] ScreenContext Context() { return services_->Context(); }
@@ -34,6 +36,8 @@ class DesktopProgram {
   [[nodiscard]] const std::optional<int>& ExitStatus() const { return gate_.ExitStatus(); }
 
  private:
+  void DoWhenReady(const StartOrder& order);
+
   std::unique_ptr<Engine> engine_;
   DiskFiles files_;
   ScreenRegistry screens_;

@@ -7,9 +7,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include "desktop/UserFolder.h"
 #include "desktop/binder/QtText.h"
 
 namespace lorvane {
@@ -71,11 +71,14 @@ QString WithEnding(const QString& path, const QString& kind) {
 }
 
 QString StartOf(const std::string& start) {
-  const QString path = ToQt(start);
-  const QFileInfo folder(QFileInfo(path).isDir() ? path : QFileInfo(path).path());
-  return folder.isDir() && folder.isWritable()
-             ? path
-             : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QString path = ToQt(start);
+  const QFileInfo given(path);
+  const QFileInfo folder(given.isDir() ? path : given.path());
+  if (folder.isDir() && folder.isWritable()) {
+    return path;
+  }
+  const QDir own = UserFolder();
+  return given.isDir() ? own.path() : own.filePath(given.fileName());
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ namespace lorvane {
 [[nodiscard]] std::string AskForText(QWidget* over, const std::string& prompt,
                                      const std::string& title, const std::string& proposal);
 /// See ScreenServices::AskForFile. Where the folder to start in can't be written, the dialog starts
-/// in the user's documents.
+/// in the user's documents, or in their home when there is no such folder.
 [[nodiscard]] std::string AskForFileName(QWidget* over, const FileDialog& dialog);
 
 }  // namespace lorvane

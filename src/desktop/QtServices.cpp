@@ -2,15 +2,18 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QTimer>
 
 #include "basic/RuntimeError.h"
 #include "desktop/DesktopShell.h"
 #include "desktop/Dialogs.h"
 #include "desktop/HelpWindow.h"
 #include "desktop/MainWindow.h"
+#include "desktop/SampleCompany.h"
 #include "desktop/SplashWindow.h"
 #include "desktop/binder/QtText.h"
 #include "screen/Session.h"
+#include "screen/modForm.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 
@@ -68,11 +71,31 @@ std::string QtServices::InputBox(const std::string& prompt, const std::string& t
 }
 
 std::string QtServices::AskForFile(const FileDialog& dialog) {
+  if (!dialog.newFile && !fileToOpen_.empty()) {
+    return std::exchange(fileToOpen_, {});
+  }
   gate_.Flush();
   const UsualPointer usual;
   std::string given = AskForFileName(Front(), dialog);
   gate_.ThrowIfEnded();
   return given;
+}
+
+void QtServices::OpenCompany(const std::string& file) {
+  fileToOpen_ = file;
+  FindScreen("frmMain")->Call("mnuFOpenCompany_Click");
+  // Who chose the file elsewhere can't see that nothing came of it.
+  if (const DataConnection& connection = *session_.gDataConn; !connection.IsOpen()) {
+    MsgBox(connection.Errors().front().description, box::kExclamation, "Open Company");
+  }
+}
+
+void QtServices::OpenSample() {
+  try {
+    OpenCompany(UserSampleCompany(session_));
+  } catch (const RuntimeError& error) {
+    ShowError(Context(), error, box::kExclamation);
+  }
 }
 
 void QtServices::SetPointer(int shape) {
@@ -129,7 +152,11 @@ void QtServices::ShowModeless(Screen& screen) {
     splash_->show();
   } else if (auto* main = dynamic_cast<frmMain*>(&screen)) {
     main_ = std::make_unique<MainWindow>(*main, gate_, Context());
+    main_->OnOpenSample = [this] { OpenSample(); };
     main_->show();
+    if (OnMainWindow) {
+      QTimer::singleShot(0, main_.get(), OnMainWindow);
+    }
   } else if (const auto found = open_.find(&screen); found != open_.end()) {
     main_->BringToFront(*found->second);
   } else {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <string>
 
 #include "desktop/PrinterPainter.h"
 #include "desktop/binder/ScreenGate.h"
@@ -20,6 +22,12 @@ class QtServices : public ScreenHost {
  public:
   QtServices(Session& session, const ScreenRegistry& screens, ScreenGate& gate, Clock clock);
   ~QtServices() override;
+
+  /// Called whenever the main window has been shown and the program waits for its user.
+  std::function<void()> OnMainWindow;
+  /// Opens a company that was chosen elsewhere than in the dialog of Open Company, and tells in a
+  /// box why it can't be opened.
+  void OpenCompany(const std::string& file);
 
   int MsgBox(const std::string& text, int flags, const std::string& title) override;
   [[nodiscard]] std::string InputBox(const std::string& prompt, const std::string& title,
@@ -46,6 +54,7 @@ class QtServices : public ScreenHost {
   /// The window in front, over which the next one opens; null when there is none.
   [[nodiscard]] QWidget* Front() const;
   void TellClosed();
+  void OpenSample();
 
   Session& session_;
   ScreenGate& gate_;
@@ -57,6 +66,8 @@ class QtServices : public ScreenHost {
   /// The windows of the screens that are open, but for the splash screen and the main window.
   std::map<const Screen*, std::unique_ptr<ScreenDialog>> open_;
   std::unique_ptr<HelpWindow> help_;
+  /// The answer to the next question for a file to open; empty when the user is asked.
+  std::string fileToOpen_;
 };
 
 }  // namespace lorvane

@@ -7,6 +7,7 @@
 #include "basic/Number.h"
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
+#include "company/RatesFile.h"
 #include "company/cIndustry.h"
 #include "screen/ScreenServices.h"
 #include "screen/Session.h"
@@ -201,7 +202,8 @@ std::string cYearEnd::TakeRates() {
   Session& session = context_.session;
   const std::unique_ptr<DataConnection> resource = session.gDataConn->MakeAnother();
   resource->SetProviderConst(session.gDataConn->ProviderConst());
-  resource->DataSource = session.programFolder + "/Resource/Sic.mdb";
+  resource->DataSource = RatesToRead(session);
+  resource->ReadOnly = true;
   const PublishedRates published(*resource, NextYear());
 
   cIndustry industry;

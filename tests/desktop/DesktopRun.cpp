@@ -31,13 +31,15 @@ constexpr int kMostNeglected = 5;
 
 }  // namespace
 
-DesktopRun::DesktopRun() : clockwork_(std::make_unique<QObject>()) {
+DesktopRun::DesktopRun(const std::function<StartOrder(DesktopRun&)>& prepare)
+    : clockwork_(std::make_unique<QObject>()) {
   namespace fs = std::filesystem;
   fs::copy(ProgramFolder() + "/Resource/Sample Data", folder_.Path(), fs::copy_options::recursive);
   program_ = std::make_unique<DesktopProgram>(FixedClock(kNow), [](int) {});
-  program_->StartWithMainWindow();
-  EXPECT_TRUE(QTest::qWaitForWindowExposed(&Main()));
+  const StartOrder order = prepare(*this);
   Tick();
+  program_->StartWithMainWindow(order);
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(&Main()));
 }
 
 DesktopRun::~DesktopRun() {

@@ -22,7 +22,9 @@ namespace lorvane {
 /// A window that nobody expected, or an operation whose window didn't come, fails the test.
 class DesktopRun {
  public:
-  DesktopRun();
+  DesktopRun() : DesktopRun([](DesktopRun&) { return StartOrder(); }) {}
+  /// As started with an order. What it opens is queued in `prepare`, which has the company already.
+  explicit DesktopRun(const std::function<StartOrder(DesktopRun&)>& prepare);
   ~DesktopRun();
   DesktopRun(const DesktopRun&) = delete;
   DesktopRun& operator=(const DesktopRun&) = delete;

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QFileInfo>
 #include <QImage>
 #include <QLabel>
 #include <QListWidget>
@@ -48,6 +49,24 @@ TEST(Year, WithoutACompanyTheWaysToOneAreOffered) {
   EXPECT_THAT(VisibleButtons(run.Main()), Contains("Enter Payments"));
   EXPECT_THAT(VisibleButtons(run.Main()), Not(Contains("Open the Sample")));
   EXPECT_TRUE(Part(run.Main(), "yearChart").isVisible());
+}
+
+TEST(Year, TheSampleIsCopiedOnceAndOpened) {
+  const TemporaryFolder home;
+  const QByteArray before = qgetenv("HOME");
+  qputenv("HOME", home.Path().c_str());
+  const std::string copy = home.File("Lorvane Sample Company/Data.mdb");
+  for (const bool first : {true, false}) {
+    DesktopRun run;
+    EXPECT_EQ(QFileInfo::exists(QString::fromStdString(copy)), !first);
+    Part<QToolButton>(run.Main(), "start_sample").click();
+    EXPECT_EQ(run.Program().GetSession().gDataConn->DataSource, copy);
+    EXPECT_TRUE(run.Main().windowTitle().endsWith(QLatin1String("Fundy Ridge Builders Limited")));
+    // What was done to the copy is still there the next time.
+    EXPECT_EQ(run.First("SELECT Count(*) AS N FROM tblAssets") == "0", !first);
+    run.Program().GetSession().gDataConn->Connection().Execute("DELETE FROM tblAssets");
+  }
+  qputenv("HOME", before);
 }
 
 TEST(Year, ShowsTheTotalsOfTheTablesAndWhatIsWaiting) {
