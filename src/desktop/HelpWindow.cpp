@@ -8,11 +8,11 @@
 #include <QRegularExpression>
 #include <QSplitter>
 #include <QTextBlock>
-#include <QTextBrowser>
 #include <QTreeWidget>
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "desktop/HelpText.h"
 #include "desktop/binder/Icons.h"
 
 namespace lorvane {
@@ -37,7 +37,7 @@ HelpWindow::HelpWindow(const QString& folder)
     : folder_(folder),
       search_(new QLineEdit(this)),
       contents_(new QTreeWidget(this)),
-      text_(new QTextBrowser(this)) {
+      text_(new HelpText(folder, this)) {
   constexpr int kWidth = 140;
   constexpr int kHeight = 40;
   constexpr int kContentsWidth = 44;
@@ -56,7 +56,7 @@ HelpWindow::HelpWindow(const QString& folder)
   contents_->setHeaderHidden(true);
   text_->setObjectName(QStringLiteral("helpText"));
   text_->setOpenExternalLinks(true);
-  text_->setSearchPaths({folder});
+  text_->setAccessibleName(tr("Page"));
 
   auto* left = new QWidget(this);
   auto* column = new QVBoxLayout(left);

@@ -3,10 +3,11 @@
 #include <QMainWindow>
 
 class QLineEdit;
-class QTextBrowser;
 class QTreeWidget;
 
 namespace lorvane {
+
+class HelpText;
 
 /// The manual in a window of its own: contents at the left, which a search narrows down to the
 /// pages and headings that hold the words, and the page at the right.
@@ -34,7 +35,7 @@ class HelpWindow : public QMainWindow {
   QList<Page> pages_;
   QLineEdit* search_;
   QTreeWidget* contents_;
-  QTextBrowser* text_;
+  HelpText* text_;
 };
 
 }  // namespace lorvane

@@ -4,14 +4,21 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <algorithm>
 #include <utility>
 
+#include "desktop/binder/Mnemonics.h"
 #include "desktop/binder/QtText.h"
 #include "desktop/binder/ScreenGate.h"
 #include "desktop/binder/WindowBinder.h"
 #include "screen/Screen.h"
 
 namespace lorvane {
+namespace {
+
+constexpr const char* kNamePrefix = "namePrefix";
+
+}  // namespace
 
 Binding::Binding(WindowBinder& window, Control& control, QWidget& widget)
     : QObject(&widget), window_(&window), control_(control), widget_(widget) {
@@ -46,7 +53,26 @@ void Binding::Flush() {
   widget_.setVisible(control_.Visible());
   widget_.setToolTip(ToQt(control_.Tip()));
   ShowValue();
+  if (namedByCaption_) {
+    TellName();
+  }
   showing_ = false;
+}
+
+void Binding::NameByCaption() {
+  namedByCaption_ = true;
+  TellName();
+}
+
+void Binding::TellName() {
+  const auto hasWords = [](const QString& text) {
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); });
+  };
+  const QString caption = WithoutMnemonic(ToQt(control_.Caption()));
+  const QString tip = ToQt(control_.Tip());
+  const QString name = hasWords(caption) || tip.isEmpty() ? caption : tip;
+  widget_.setAccessibleName(widget_.property(kNamePrefix).toString() +
+                            (hasWords(name) ? name : ToQt(control_.Name())));
 }
 
 void Binding::Act(const std::function<void()>& action) {
@@ -134,6 +160,8 @@ bool Binding::eventFilter(QObject* watched, QEvent* event) {
       return QObject::eventFilter(watched, event);
   }
 }
+
+void PrefixName(QWidget& widget, const QString& prefix) { widget.setProperty(kNamePrefix, prefix); }
 
 bool SelectsFirstRow(const QEvent& event) {
   if (event.type() != QEvent::KeyPress) {

@@ -28,6 +28,9 @@ class Binding : public QObject {
   void Flush();
   /// The window's binder goes before its widgets do.
   void Detach();
+  /// From now on whoever can't see the widget is told its caption, or its tip where it shows no
+  /// words, behind the prefix that PrefixName gave.
+  void NameByCaption();
   /// The widget differs from its control, or may do so.
   void MarkChanged() { changed_ = true; }
 
@@ -47,6 +50,7 @@ class Binding : public QObject {
   [[nodiscard]] bool Showing() const { return showing_; }
 
  private:
+  void TellName();
   bool OnPress();
   bool OnContextMenu();
   bool OnDoubleClicked();
@@ -55,8 +59,12 @@ class Binding : public QObject {
   Control& control_;
   QWidget& widget_;
   bool changed_ = true;
+  bool namedByCaption_ = false;
   bool showing_ = false;
 };
+
+/// Tells widgets of one caption apart: "Industry A: " say.
+void PrefixName(QWidget& widget, const QString& prefix);
 
 /// Whether a key event of a list in which nothing is selected selects its first row.
 [[nodiscard]] bool SelectsFirstRow(const QEvent& event);

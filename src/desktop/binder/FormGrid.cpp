@@ -43,6 +43,7 @@ QWidget* FormGrid::Sized(Control& field) const {
     const int characters = static_cast<int>(text->MaxLength());
     if (text->MultiLine) {
       widget->setMinimumHeight((kLines + 1) * widget->fontMetrics().lineSpacing());
+      widget->setMaximumHeight(2 * widget->minimumHeight());
     } else if (characters > 0 && characters < kWidest) {
       widget->setFixedWidth(
           (characters + kFrame) *
@@ -61,9 +62,11 @@ QWidget* FormGrid::Sized(Control& field) const {
 void FormGrid::Row(std::initializer_list<Control*> fields) {
   auto* line = new QHBoxLayout;
   bool named = false;
+  QString name;
   for (Control* field : fields) {
     QWidget* widget = Sized(*field);
     if (QLabel* label = LabelOf(*field, *widget)) {
+      name = widget->accessibleName();
       // The first label names the row, also where a field without one stands before it.
       if (!std::exchange(named, true)) {
         grid_->addWidget(label, row_, 0, Qt::AlignVCenter);
@@ -71,6 +74,10 @@ void FormGrid::Row(std::initializer_list<Control*> fields) {
         line->addSpacing(widget->fontMetrics().averageCharWidth());
         line->addWidget(label);
       }
+    }
+    // The button beside a field says nothing but that there is more to choose from.
+    if (qobject_cast<QPushButton*>(widget) != nullptr && field->Tip().empty() && !name.isEmpty()) {
+      widget->setAccessibleName(QWidget::tr("Choose: %1").arg(name));
     }
     line->addWidget(widget, widget->minimumWidth() == widget->maximumWidth() ? 0 : 1);
   }

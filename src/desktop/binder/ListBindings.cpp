@@ -5,6 +5,7 @@
 #include <QItemSelectionModel>
 #include <QLineEdit>
 
+#include "desktop/binder/Contrast.h"
 #include "desktop/binder/QtText.h"
 
 namespace lorvane {
@@ -15,13 +16,13 @@ QString EntryTextOf(const ListControl& control, int index) {
   return ToQt(entry.remark.empty() ? entry.text : entry.text + " (" + entry.remark + ")");
 }
 
-// Strong enough to be read on a light ground and on a dark one.
-QBrush ColourOf(const ListControl& control, int index) {
+// The remark says the same in words.
+QBrush ColourOf(const ListControl& control, int index, const QColor& ground) {
   switch (control.Entries()[static_cast<std::size_t>(index)].urgency) {
     case Urgency::kOverdue:
-      return QColor(0xD0, 0x3A, 0x2E);
+      return ReadableOn(ground, QColor(0xD0, 0x3A, 0x2E));
     case Urgency::kSoon:
-      return QColor(0xB0, 0x74, 0x00);
+      return ReadableOn(ground, QColor(0xB0, 0x74, 0x00));
     case Urgency::kNone:
       break;
   }
@@ -39,7 +40,7 @@ void ShowEntries(const ListControl& control, QListWidget& list) {
     } else if (list.item(i)->text() != text) {
       list.item(i)->setText(text);
     }
-    const QBrush colour = ColourOf(control, i);
+    const QBrush colour = ColourOf(control, i, list.palette().color(QPalette::Base));
     if (list.item(i)->foreground() != colour) {
       list.item(i)->setForeground(colour);
     }

@@ -4,6 +4,7 @@
 #include <QPalette>
 #include <algorithm>
 
+#include "desktop/binder/Contrast.h"
 #include "desktop/binder/QtText.h"
 
 namespace lorvane {
@@ -14,16 +15,15 @@ Qt::Alignment AlignmentOf(const ListView::ViewColumn& column) {
          (column.alignment == ListView::Alignment::kRight ? Qt::AlignRight : Qt::AlignLeft);
 }
 
-// Black is the system's own text colour; other colours are lightened on a dark ground.
+// Black is the system's own text colour; another one is made to be read on the ground of every row.
 QVariant ColourOf(const ListView& control) {
   if (control.TextColour() == ListView::kBlack) {
     return {};
   }
-  constexpr int kMiddle = 128;
-  constexpr int kLighter = 175;
-  const QColor colour = QColor::fromRgb(static_cast<QRgb>(control.TextColour()));
-  const bool dark = QGuiApplication::palette().color(QPalette::Base).lightness() < kMiddle;
-  return dark ? QColor::fromHsl(colour.hslHue(), colour.hslSaturation(), kLighter) : colour;
+  const QPalette palette = QGuiApplication::palette();
+  const QColor colour = ReadableOn(palette.color(QPalette::Base),
+                                   QColor::fromRgb(static_cast<QRgb>(control.TextColour())));
+  return ReadableOn(palette.color(QPalette::AlternateBase), colour);
 }
 
 }  // namespace

@@ -18,6 +18,7 @@
 
 #include "basic/RuntimeError.h"
 #include "desktop/binder/ButtonBindings.h"
+#include "desktop/binder/FocusMark.h"
 #include "desktop/binder/Icons.h"
 #include "desktop/binder/ListBindings.h"
 #include "desktop/binder/ListViewBinding.h"
@@ -61,7 +62,7 @@ QLabel* WindowBinder::MakeNaming(Label& control, QWidget& field) {
 }
 
 QPushButton* WindowBinder::Make(Command& control) {
-  auto* button = Bound<CommandBinding>(*this, control, new QPushButton(&window_));
+  auto* button = Bound<CommandBinding>(*this, control, new MarkedButton(&window_));
   button->setAutoDefault(false);
   button->setDefault(control.ButtonRole() == Command::Role::kDefault);
   return button;
@@ -90,7 +91,7 @@ QGroupBox* WindowBinder::Make(Frame& control) {
 }
 
 QListWidget* WindowBinder::Make(ListBox& control) {
-  return Bound<ListBoxBinding>(*this, control, new QListWidget(&window_));
+  return Bound<ListBoxBinding>(*this, control, new MarkedView<QListWidget>(&window_));
 }
 
 QComboBox* WindowBinder::Make(ComboBox& control) {
@@ -98,7 +99,7 @@ QComboBox* WindowBinder::Make(ComboBox& control) {
 }
 
 QTreeView* WindowBinder::Make(ListView& control) {
-  return Bound<ListViewBinding>(*this, control, new QTreeView(&window_));
+  return Bound<ListViewBinding>(*this, control, new MarkedView<QTreeView>(&window_));
 }
 
 QDateEdit* WindowBinder::Make(DatePicker& control) {

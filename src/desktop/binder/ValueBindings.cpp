@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QTabBar>
+#include <QTextCharFormat>
 
 namespace lorvane {
 namespace {
@@ -40,6 +41,10 @@ CalendarBinding::CalendarBinding(WindowBinder& window, Calendar& control, QCalen
     : Binding(window, control, sheet), control_(control), sheet_(sheet) {
   sheet.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   sheet.setGridVisible(false);
+  // The toolkit's red for them is hard to read; the headings of their columns name them.
+  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
+    sheet.setWeekdayTextFormat(day, {});
+  }
   for (QWidget* part : sheet.findChildren<QWidget*>()) {
     if (part->focusPolicy() != Qt::NoFocus) {
       Watch(*part);
@@ -80,8 +85,13 @@ void ProgressBinding::ShowValue() {
 
 TabBinding::TabBinding(WindowBinder& window, TabStrip& control, QTabWidget& tabs)
     : Binding(window, control, tabs), control_(control), tabs_(tabs) {
-  connect(&tabs, &QTabWidget::currentChanged, this,
-          [this](int tab) { Act([this, tab] { control_.UserSelect(tab); }); });
+  connect(&tabs, &QTabWidget::currentChanged, this, [this](int tab) {
+    // The first page that is put in comes to the front by itself, which is none of the user's
+    // doing.
+    if (tabs_.isVisible()) {
+      Act([this, tab] { control_.UserSelect(tab); });
+    }
+  });
 }
 
 bool TabBinding::eventFilter(QObject* watched, QEvent* event) {

@@ -115,12 +115,9 @@ void WindowBinder::ShowPopUp(Control& menu) {
 void WindowBinder::Finish() {
   Flush();
   AssignMnemonics(window_);
-  for (const Binding* binding : bindings_) {
-    QWidget& widget = binding->Widget();
-    if (widget.accessibleName().isEmpty()) {
-      const Control& control = binding->Model();
-      const std::string& said = control.Caption().empty() ? control.Tip() : control.Caption();
-      widget.setAccessibleName(WithoutMnemonic(ToQt(said.empty() ? control.Name() : said)));
+  for (Binding* binding : bindings_) {
+    if (binding->Widget().accessibleName().isEmpty()) {
+      binding->NameByCaption();
     }
   }
 }
@@ -183,8 +180,49 @@ Binding* WindowBinder::BindingOf(const Control* control) const {
   return found == bindings_.end() ? nullptr : *found;
 }
 
-// The screen decides where the Tab key leads, as it does for its scripts.
+void WindowBinder::AddStop(QWidget& stop, Control& behind) {
+  stops_.push_back({&stop, &behind});
+  stop.installEventFilter(this);
+}
+
+QWidget* WindowBinder::StopBefore(const Control* control) const {
+  const auto found = std::find_if(stops_.begin(), stops_.end(),
+                                  [&](const Stop& stop) { return stop.behind == control; });
+  return found != stops_.end() && found->widget->isVisible() ? found->widget : nullptr;
+}
+
+// The screen decides where the Tab key leads, as it does for its scripts; what the window alone has
+// stands on the way.
 void WindowBinder::MoveByTab(Control& from, bool forward) {
+  window_.window()->setAttribute(Qt::WA_KeyboardFocusChange);
+  QWidget* before = StopBefore(&from);
+  if (!forward && before != nullptr) {
+    before->setFocus(Qt::BacktabFocusReason);
+    return;
+  }
+  MoveFrom(from, forward);
+  QWidget* passed = StopBefore(screen_.Focus());
+  if (forward && passed != nullptr && screen_.Focus() != &from) {
+    passed->setFocus(Qt::TabFocusReason);
+  }
+}
+
+// Tab on something that the window alone has; true when it led on.
+bool WindowBinder::MoveFromStop(const QObject& stop, int key) {
+  const auto found = std::find_if(stops_.begin(), stops_.end(),
+                                  [&](const Stop& known) { return known.widget == &stop; });
+  if (found == stops_.end() || (key != Qt::Key_Tab && key != Qt::Key_Backtab)) {
+    return false;
+  }
+  if (key == Qt::Key_Backtab) {
+    MoveFrom(*found->behind, false);
+  } else if (const Binding* behind = BindingOf(found->behind)) {
+    behind->Widget().setFocus(Qt::TabFocusReason);
+  }
+  return true;
+}
+
+void WindowBinder::MoveFrom(Control& from, bool forward) {
   gate_.Run([&] {
     if (screen_.Focus() != &from && !screen_.MoveFocus(from)) {
       return;
@@ -212,6 +250,9 @@ bool WindowBinder::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress: {
       const auto& pressed = *static_cast<QKeyEvent*>(event);
+      if (watched != &window_) {
+        return MoveFromStop(*watched, pressed.key());
+      }
       if (pressed.modifiers().testFlag(Qt::ControlModifier) && TurnPage(pressed.key())) {
         return true;
       }
@@ -223,7 +264,14 @@ bool WindowBinder::eventFilter(QObject* watched, QEvent* event) {
       const int key = ScreenKey(pressed);
       return key == key_code::kEnter || key == key_code::kEscape;
     }
+    case QEvent::WindowActivate:
+      // The keyboard leads through every window: where it is has to be seen from the beginning.
+      window_.window()->setAttribute(Qt::WA_KeyboardFocusChange);
+      return false;
     case QEvent::Close:
+      if (watched != &window_) {
+        return false;
+      }
       event->ignore();
       CloseScreen();
       return true;

@@ -97,6 +97,8 @@ class WindowBinder : public QObject {
   void FocusFirst();
   /// Brings the window up to date with the screen.
   void Flush();
+  /// A widget that no control stands behind, on the Tab key's way before one.
+  void AddStop(QWidget& stop, Control& behind);
   /// The Tab key on a control, or Shift with it.
   void MoveByTab(Control& from, bool forward);
   /// Whether the window is being brought up to date.
@@ -117,6 +119,9 @@ class WindowBinder : public QObject {
 
  private:
   [[nodiscard]] Binding* BindingOf(const Control* control) const;
+  [[nodiscard]] QWidget* StopBefore(const Control* control) const;
+  bool MoveFromStop(const QObject& stop, int key);
+  void MoveFrom(Control& from, bool forward);
   void FollowFocus();
   bool TurnPage(int key);
   void ShowPopUp(Control& menu);
@@ -130,6 +135,11 @@ class WindowBinder : public QObject {
   std::vector<Binding*> bindings_;
   std::vector<MenuBinding*> menus_;
   std::vector<QMenu*> popUps_;
+  struct Stop {
+    QWidget* widget;
+    Control* behind;
+  };
+  std::vector<Stop> stops_;
   bool following_ = false;
   bool closedTold_ = false;
 };

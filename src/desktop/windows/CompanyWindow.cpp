@@ -10,7 +10,9 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QTabWidget>
+#include <array>
 
+#include "desktop/binder/Binding.h"
 #include "desktop/binder/FormGrid.h"
 #include "desktop/binder/ScreenGate.h"
 
@@ -52,6 +54,11 @@ QWidget* IndustryRows(WindowBinder& binder, IndustryPage& page, Command& updateR
     QCheckBox* used = binder.Make(row.chkInd);
     used->setMinimumWidth(kDescription * used->fontMetrics().averageCharWidth());
     grid->addWidget(used, line, 0);
+    const QString letter(QLatin1Char(LetterOf(slot)));
+    PrefixName(*used, QWidget::tr("Industry %1: ").arg(letter));
+    const std::array names{
+        QWidget::tr("SIC of industry %1"), QWidget::tr("Look up the code of industry %1"),
+        QWidget::tr("Rate of industry %1"), QWidget::tr("Identifier of industry %1")};
     column = 1;
     for (Control* control :
          {static_cast<Control*>(&row.txtSic), static_cast<Control*>(&row.cmdRates),
@@ -59,7 +66,7 @@ QWidget* IndustryRows(WindowBinder& binder, IndustryPage& page, Command& updateR
       QWidget* field = binder.MakeField(*control);
       const int character = field->fontMetrics().averageCharWidth();
       field->setFixedWidth((control == &row.cmdRates ? kNumber / 3 : kNumber) * character);
-      field->setAccessibleName(QLatin1String(control->DataField.c_str()));
+      field->setAccessibleName(names.at(static_cast<std::size_t>(column - 1)).arg(letter));
       grid->addWidget(field, line, column++);
     }
     ++line;

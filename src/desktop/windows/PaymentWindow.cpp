@@ -17,7 +17,6 @@ PaymentWindow::PaymentWindow(frmPayment& screen, ScreenGate& gate, QWidget* pare
   amount->setMinimumWidth(Characters(kWidth));
   auto* hint =
       new QLabel(tr("Enter records the amount and goes on, Esc leaves it as it was."), this);
-  hint->setForegroundRole(QPalette::PlaceholderText);
   hint->setWordWrap(true);
 
   auto* layout = new QVBoxLayout(this);

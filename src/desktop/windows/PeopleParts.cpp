@@ -37,6 +37,7 @@ QWidget* PeopleNames(WindowBinder& binder, ListBox& list) {
   filter->setToolTip(QWidget::tr("Ctrl+F"));
   filter->setClearButtonEnabled(true);
   filter->addAction(IconOf("search"), QLineEdit::LeadingPosition);
+  binder.AddStop(*filter, list);
   const auto apply = [filter, names] {
     const QString wanted = filter->text().trimmed();
     for (int i = 0; i < names->count(); ++i) {

@@ -1,11 +1,14 @@
 #include "desktop/windows/ReportPages.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 #include <cmath>
 #include <utility>
+
+#include "desktop/binder/QtText.h"
 
 namespace lorvane {
 namespace {
@@ -15,12 +18,63 @@ constexpr double kPointsPerInch = 72;
 // The part of a page's height that is wanted in view at once.
 constexpr double kSeenAtOnce = 0.6;
 
+// What a screen reader is told of the pages: which one is in view, and what stands there.
+class PagesTold : public QAccessibleWidget {
+ public:
+  explicit PagesTold(ReportPages& pages)
+      : QAccessibleWidget(&pages, QAccessible::Document), pages_(pages) {}
+
+  [[nodiscard]] QString text(QAccessible::Text kind) const override {
+    switch (kind) {
+      case QAccessible::Name:
+        return ReportPages::tr("Report, page %1 of %2")
+            .arg(pages_.PageInView())
+            .arg(pages_.PageCount());
+      case QAccessible::Value:
+        return pages_.TextInView();
+      default:
+        return QAccessibleWidget::text(kind);
+    }
+  }
+
+ private:
+  ReportPages& pages_;
+};
+
+QAccessibleInterface* TellOf(const QString& /*kind*/, QObject* object) {
+  auto* pages = dynamic_cast<ReportPages*>(object);
+  return pages == nullptr ? nullptr : new PagesTold(*pages);
+}
+
 }  // namespace
 
 ReportPages::ReportPages() {
   viewport()->setBackgroundRole(QPalette::Dark);
   viewport()->setAutoFillBackground(true);
   setFrameShape(QFrame::NoFrame);
+  static const bool kTold = [] {
+    QAccessible::installFactory(TellOf);
+    return true;
+  }();
+  Q_UNUSED(kTold)
+}
+
+// The page in view as text, a line for each row.
+QString ReportPages::TextInView() const {
+  QString text;
+  const int page = PageInView();
+  if (page > PageCount()) {
+    return text;
+  }
+  double line = -1;
+  for (const PlacedText& placed : report_->pages[static_cast<std::size_t>(page - 1)].texts) {
+    if (!text.isEmpty()) {
+      text += QLatin1Char(std::exchange(line, placed.y) == placed.y ? ' ' : '\n');
+    }
+    line = placed.y;
+    text += ToQt(placed.text);
+  }
+  return text;
 }
 
 QSize ReportPages::sizeHint() const {
@@ -175,6 +229,21 @@ void ReportPages::paintEvent(QPaintEvent* /*event*/) {
     PaintPage(painter, page);
     painter.restore();
   }
+  if (hasFocus()) {
+    constexpr int kEdge = 2;
+    painter.setPen(QPen(palette().color(QPalette::Highlight), kEdge));
+    painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+  }
+}
+
+void ReportPages::focusInEvent(QFocusEvent* event) {
+  QAbstractScrollArea::focusInEvent(event);
+  viewport()->update();
+}
+
+void ReportPages::focusOutEvent(QFocusEvent* event) {
+  QAbstractScrollArea::focusOutEvent(event);
+  viewport()->update();
 }
 
 }  // namespace lorvane

@@ -24,8 +24,11 @@ class ReportPages : public QAbstractScrollArea {
   void ShowPage(int page);
   /// Lays a colour under a text and brings it into view; nothing marks none.
   void Mark(const std::optional<ReportViewer::Match>& match);
+  [[nodiscard]] int PageCount() const;
   /// The page, counted from 1, that takes the middle of the view.
   [[nodiscard]] int PageInView() const;
+  /// What stands on it.
+  [[nodiscard]] QString TextInView() const;
 
   /// Called when scrolling has brought another page into view.
   std::function<void(int page)> OnPageInView;
@@ -37,11 +40,12 @@ class ReportPages : public QAbstractScrollArea {
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   [[nodiscard]] double PixelsPerPoint() const;
   [[nodiscard]] double PageStep() const;
-  [[nodiscard]] int PageCount() const;
   /// The upper edge of a page, counted from 0, in the whole strip of pages.
   [[nodiscard]] double TopOf(int page) const;
   void UpdateBars();

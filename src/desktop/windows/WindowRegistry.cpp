@@ -37,6 +37,14 @@ std::unique_ptr<ScreenDialog> WindowRegistry::Make(Screen& screen, ScreenGate& g
   return window;
 }
 
+std::vector<std::string> WindowRegistry::Names() const {
+  std::vector<std::string> names;
+  for (const auto& [name, maker] : makers_) {
+    names.push_back(name);
+  }
+  return names;
+}
+
 WindowRegistry AllWindows() {
   WindowRegistry windows;
   windows.Add<frmCheckList, CheckListWindow>("frmCheckList");

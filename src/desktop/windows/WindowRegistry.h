@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "desktop/binder/ScreenDialog.h"
 
@@ -21,6 +22,8 @@ class WindowRegistry {
   /// A new window, complete and not yet shown. Raises 51 when the screen has none.
   [[nodiscard]] std::unique_ptr<ScreenDialog> Make(Screen& screen, ScreenGate& gate,
                                                    QWidget* parent) const;
+  /// The screens that have a window.
+  [[nodiscard]] std::vector<std::string> Names() const;
 
  private:
   using Maker = std::function<std::unique_ptr<ScreenDialog>(Screen&, ScreenGate&, QWidget*)>;
