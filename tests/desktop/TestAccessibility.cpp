@@ -169,18 +169,28 @@ void ExpectFocusToBeSeen(QWidget& window) {
   }
 }
 
+void ExpectAccess(QWidget& window) {
+  window.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(window.window()));
+  ExpectNames(window);
+  ExpectEverythingOnTheWay(window);
+  ExpectFocusToBeSeen(window);
+}
+
 class Accessibility : public testing::TestWithParam<WindowRoad> {};
 
 TEST_P(Accessibility, IsReachedNamedAndSeen) {
   QApplication::setCursorFlashTime(0);
   DesktopRun run;
-  Visit(run, GetParam(), [](QWidget& window) {
-    window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(window.window()));
-    ExpectNames(window);
-    ExpectEverythingOnTheWay(window);
-    ExpectFocusToBeSeen(window);
-  });
+  Visit(run, GetParam(), ExpectAccess);
+}
+
+TEST(AccessibilityOfTheMainWindow, IsReachedNamedAndSeen) {
+  QApplication::setCursorFlashTime(0);
+  DesktopRun run;
+  ExpectAccess(run.Main());
+  run.OpenCompany();
+  ExpectAccess(run.Main());
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, Accessibility, testing::ValuesIn(WindowRoads()),

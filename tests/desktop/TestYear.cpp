@@ -1,13 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QFileInfo>
 #include <QImage>
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeView>
@@ -119,7 +119,7 @@ TEST(Year, TheChartIsReadByKeyboardAndKept) {
   QTest::keyClick(&chart, Qt::Key_Right);
   EXPECT_EQ(words.text(), "December 2026: assessable 0.00, assessment 0.00");
   EXPECT_EQ(chart.accessibleName(), "Chart: Assessable amounts, 2026");
-  Part<QRadioButton>(run.Main(), "chartAssessment").click();
+  QTest::keyClick(&Part<QComboBox>(run.Main(), "chartMeasure"), Qt::Key_Down);
   EXPECT_EQ(chart.accessibleName(), "Chart: Assessments, 2026");
 
   const TemporaryFolder folder;

@@ -1,5 +1,6 @@
 #include "desktop/glance/GlanceView.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QImage>
@@ -7,7 +8,6 @@
 #include <QListWidget>
 #include <QLocale>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <cmath>
@@ -108,12 +108,14 @@ QWidget* GlanceView::MakeChartSide() {
   words_->setTextFormat(Qt::PlainText);
   words_->setWordWrap(true);
   chart_->OnWords = [this](const QString& words) { words_->setText(words); };
-  assessable_ = new QRadioButton(tr("Assessa&ble amounts"), side);
-  assessable_->setObjectName(QStringLiteral("chartAssessable"));
-  assessable_->setChecked(true);
-  assessment_ = new QRadioButton(tr("Assess&ments"), side);
-  assessment_->setObjectName(QStringLiteral("chartAssessment"));
-  connect(assessable_, &QRadioButton::toggled, this, [this] { ShowChart(); });
+  measure_ = new QComboBox(side);
+  measure_->setObjectName(QStringLiteral("chartMeasure"));
+  // In the order of ChartMeasure.
+  measure_->addItems({tr("Assessable amounts"), tr("Assessments")});
+  measure_->setAccessibleName(tr("What the chart shows"));
+  connect(measure_, &QComboBox::currentIndexChanged, this, [this] { ShowChart(); });
+  auto* shows = new QLabel(tr("&Chart:"), side);
+  shows->setBuddy(measure_);
   auto* save = new QPushButton(tr("Sa&ve Chart..."), side);
   save->setObjectName(QStringLiteral("chartSave"));
   save->setAutoDefault(false);
@@ -123,8 +125,8 @@ QWidget* GlanceView::MakeChartSide() {
     }
   });
   auto* choices = new QHBoxLayout;
-  choices->addWidget(assessable_);
-  choices->addWidget(assessment_);
+  choices->addWidget(shows);
+  choices->addWidget(measure_);
   choices->addStretch(1);
   choices->addWidget(save);
   auto* column = new QVBoxLayout(side);
@@ -189,8 +191,7 @@ void GlanceView::ShowFailure(const QString& reason) {
 }
 
 void GlanceView::ShowChart() {
-  chart_->Show(glance_,
-               assessable_->isChecked() ? ChartMeasure::kAssessable : ChartMeasure::kAssessment);
+  chart_->Show(glance_, static_cast<ChartMeasure>(measure_->currentIndex()));
 }
 
 void GlanceView::ShowTotals() {

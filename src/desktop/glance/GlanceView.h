@@ -5,11 +5,11 @@
 
 #include "glance/YearAtAGlance.h"
 
-class QAbstractButton;
+class QComboBox;
+class QImage;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
-class QRadioButton;
 class QTreeWidget;
 
 namespace lorvane {
@@ -43,8 +43,7 @@ class GlanceView : public QWidget {
   QWidget* content_;
   YearChart* chart_ = nullptr;
   QLabel* words_ = nullptr;
-  QRadioButton* assessable_ = nullptr;
-  QRadioButton* assessment_ = nullptr;
+  QComboBox* measure_ = nullptr;
   QTreeWidget* totals_ = nullptr;
   QListWidget* work_ = nullptr;
 };

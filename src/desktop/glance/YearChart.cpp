@@ -1,6 +1,6 @@
 #include "desktop/glance/YearChart.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLocale>
@@ -15,6 +15,11 @@
 namespace lorvane {
 namespace {
 
+QAccessibleInterface* TellOf(const QString& /*kind*/, QObject* object) {
+  auto* chart = dynamic_cast<YearChart*>(object);
+  return chart == nullptr ? nullptr : new QAccessibleWidget(chart, QAccessible::Chart);
+}
+
 constexpr int kLast = static_cast<int>(YearAtAGlance::kMonths) - 1;
 
 }  // namespace
@@ -23,6 +28,11 @@ YearChart::YearChart(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("yearChart"));
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  static const bool kTold = [] {
+    QAccessible::installFactory(TellOf);
+    return true;
+  }();
+  Q_UNUSED(kTold)
 }
 
 void YearChart::Show(const YearAtAGlance& glance, ChartMeasure measure) {
