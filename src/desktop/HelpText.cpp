@@ -26,6 +26,11 @@ QVariant HelpText::loadResource(int type, const QUrl& name) {
   return Fitted(name);
 }
 
+void HelpText::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+  pictures_.clear();
+  QTextBrowser::doSetSource(name, type);
+}
+
 void HelpText::resizeEvent(QResizeEvent* event) {
   QTextBrowser::resizeEvent(event);
   if (event->size().width() != event->oldSize().width()) {

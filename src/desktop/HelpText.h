@@ -15,6 +15,7 @@ class HelpText : public QTextBrowser {
   [[nodiscard]] QVariant loadResource(int type, const QUrl& name) override;
 
  protected:
+  void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

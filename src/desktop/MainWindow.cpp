@@ -97,12 +97,12 @@ void MainWindow::Refresh() {
     ground_->setBackground(colour ? QColor::fromRgb(static_cast<QRgb>(*colour))
                                   : palette().color(QPalette::Window).darker(kDarker));
   }
-  // The company's name, or that none is open, stands behind the program's in the title.
-  const QString program = ToQt(MainTitle());
-  QString open = title.startsWith(program) ? title.mid(program.size()).trimmed() : title;
-  if (open.startsWith(QLatin1String("for: "))) {
-    open.remove(0, 5);
-  }
+  // The company's name stands behind these words in every title, or that none is open behind the
+  // program's name.
+  const QString before = QStringLiteral("for: ");
+  const qsizetype name = title.indexOf(before);
+  const QString open =
+      name < 0 ? title.mid(ToQt(MainTitle()).size()).trimmed() : title.mid(name + before.size());
   panel_->Refresh(open);
   RefreshYear();
   PlacePanel();

@@ -9,7 +9,7 @@ namespace lorvane {
 std::string UserSampleCompany(const Session& session) {
   const std::string folder =
       FromQt(UserFolder().filePath(QStringLiteral("Lorvane Sample Company")));
-  const std::string file = folder + "/Data.mdb";
+  std::string file = folder + "/Data.mdb";
   Files& files = session.files;
   if (files.Exists(file)) {
     return file;

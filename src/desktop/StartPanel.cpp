@@ -166,7 +166,9 @@ bool StartPanel::HasCompany() const {
 void StartPanel::Refresh(const QString& title) {
   constexpr int kInARow = 6;
   const bool hasCompany = HasCompany();
-  const QString heading = hasCompany ? title : tr("Welcome to Lorvane");
+  // A new company has no name yet: the title of the main window says so in brackets.
+  const QString name = title.startsWith(QLatin1Char('<')) ? tr("New company") : title;
+  const QString heading = hasCompany ? name : tr("Welcome to Lorvane");
   title_->setText(heading);
   int place = 0;
   for (const Shortcut& shortcut : shortcuts_) {

@@ -1,5 +1,7 @@
 #include "glance/YearAtAGlance.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <memory>
 #include <optional>
@@ -89,12 +91,12 @@ class GlanceReader {
     std::string keys;
     std::string sums;
     for (const IndustrySlot slot : kAllSlots) {
-      keys += SlotName("Ind", slot) + ", " + SlotName("PayDate", slot) + ", ";
-      sums += "Sum(" + SlotName("AssessAmt", slot) + ") AS " + SlotName("Sum", slot) + ", ";
+      keys += (keys.empty() ? "" : ", ") + SlotName("Ind", slot) + ", " + SlotName("PayDate", slot);
+      sums += ", Sum(" + SlotName("AssessAmt", slot) + ") AS " + SlotName("Sum", slot);
     }
-    const std::string grouping = keys.substr(0, keys.size() - 2);
-    for (const Row& row : Query("SELECT " + keys + sums + "Sum(Remittance) AS Assessment FROM " +
-                                payees.history + " GROUP BY " + grouping)) {
+    for (const Row& row :
+         Query(fmt::format("SELECT {0}{1}, Sum(Remittance) AS Assessment FROM {2} GROUP BY {0}",
+                           keys, sums, payees.history))) {
       AddPosted(row);
     }
   }
@@ -116,10 +118,9 @@ class GlanceReader {
   }
 
   void ReadWaiting(const PayeeTables& payees, IndustrySlot slot) {
-    const std::string amount = SlotName("Amount", slot);
-    const std::vector<Row> rows = Query(
-        "SELECT Count(*) AS Entries, Sum(" + amount + ") AS Total FROM " + payees.people +
-        " WHERE " + SlotName("Ind", slot) + " = -1 AND " + amount + " <> 0" + payees.onlyThose);
+    const std::vector<Row> rows = Query(fmt::format(
+        "SELECT Count(*) AS Entries, Sum({0}) AS Total FROM {1} WHERE {2} = -1 AND {0} <> 0{3}",
+        SlotName("Amount", slot), payees.people, SlotName("Ind", slot), payees.onlyThose));
     const std::int32_t count = rows.empty() ? 0 : NullToLong(rows.front()[0]);
     if (count > 0) {
       glance_.waiting.push_back(

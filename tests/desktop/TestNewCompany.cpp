@@ -53,6 +53,8 @@ void MakeFiles(DesktopRun& run, const QString& folder) {
 void EnterCompany(DesktopRun& run) {
   run.In(QStringLiteral("frmCompany"), [](QWidget& window) {
     TypeOn(window, "txtBusNum", {"123456789", "NW", "Test Roofing Ltd"});
+    // Also from a list that takes letters for a search.
+    Part<QWidget>(window, "cboProvinces").setFocus(Qt::TabFocusReason);
     QTest::keyClick(&Focused(window), Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(Part<QTabWidget>(window, "sstCompany").currentIndex(), 1);
     Click(window, "cmdRates_0");

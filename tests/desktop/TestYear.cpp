@@ -23,9 +23,9 @@ using testing::ElementsAre;
 using testing::Not;
 
 std::vector<std::string> Entries(const QListWidget& list) {
-  std::vector<std::string> texts;
+  std::vector<std::string> texts(static_cast<std::size_t>(list.count()));
   for (int row = 0; row < list.count(); ++row) {
-    texts.push_back(list.item(row)->text().toStdString());
+    texts.at(static_cast<std::size_t>(row)) = list.item(row)->text().toStdString();
   }
   return texts;
 }

@@ -146,9 +146,10 @@ bool Binding::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress: {
       const auto& pressed = *static_cast<QKeyEvent*>(event);
       const bool forward = pressed.key() == Qt::Key_Tab;
-      // With Ctrl it turns the pages of a tab strip.
-      if (window_ != nullptr && !pressed.modifiers().testFlag(Qt::ControlModifier) &&
-          (forward || pressed.key() == Qt::Key_Backtab)) {
+      if (window_ != nullptr && (forward || pressed.key() == Qt::Key_Backtab)) {
+        if (pressed.modifiers().testFlag(Qt::ControlModifier)) {
+          return window_->TurnPage(pressed.key());
+        }
         window_->MoveByTab(control_, forward);
         return true;
       }

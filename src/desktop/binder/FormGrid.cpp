@@ -17,6 +17,8 @@ namespace {
 constexpr std::size_t kPrefix = 3;
 // Fields for more characters than this grow with the window instead.
 constexpr int kWidest = 34;
+// Less of a field can't be read; so much fits on a small screen.
+constexpr int kNarrowest = 24;
 constexpr int kLines = 3;
 
 }  // namespace
@@ -49,7 +51,7 @@ QWidget* FormGrid::Sized(Control& field) const {
           (characters + kFrame) *
           std::max(character, widget->fontMetrics().horizontalAdvance(QLatin1Char('0'))));
     } else {
-      widget->setMinimumWidth(kWidest * character);
+      widget->setMinimumWidth(kNarrowest * character);
     }
   } else if (auto* button = qobject_cast<QPushButton*>(widget); button != nullptr) {
     if (button->text().size() <= static_cast<qsizetype>(kPrefix)) {

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <algorithm>
 
 #include "desktop/binder/QtText.h"
@@ -57,7 +58,11 @@ void ScreenDialog::Present() {
     const QPoint ground =
         MainWindowOf(*this).geometry().topLeft() + QPoint(main->Place.left, main->Place.top);
     const QPoint middle(place.left + place.width / 2, place.top + place.height / 2);
-    move(ground + middle - rect().center());
+    // All of it on the screen where it can be.
+    const QRect room = QWidget::screen()->availableGeometry();
+    const QPoint wanted = ground + middle - rect().center();
+    move(std::max(room.left(), std::min(wanted.x(), room.right() - width())),
+         std::max(room.top(), std::min(wanted.y(), room.bottom() - height())));
   }
   show();
   binder_.FocusFirst();

@@ -99,6 +99,9 @@ class WindowBinder : public QObject {
   void Flush();
   /// A widget that no control stands behind, on the Tab key's way before one.
   void AddStop(QWidget& stop, Control& behind);
+  /// Ctrl with Tab, or with the other keys that turn the pages of a tab strip; false when nothing
+  /// turned.
+  bool TurnPage(int key);
   /// The Tab key on a control, or Shift with it.
   void MoveByTab(Control& from, bool forward);
   /// Whether the window is being brought up to date.
@@ -123,7 +126,6 @@ class WindowBinder : public QObject {
   bool MoveFromStop(const QObject& stop, int key);
   void MoveFrom(Control& from, bool forward);
   void FollowFocus();
-  bool TurnPage(int key);
   void ShowPopUp(Control& menu);
   [[nodiscard]] std::vector<MenuEntry*> Menus(bool popUps) const;
   QMenu* MakeMenu(const MenuEntry& menu);

@@ -114,9 +114,8 @@ QWidget* GlanceView::MakeChartSide() {
   measure_->addItems({tr("Assessable amounts"), tr("Assessments")});
   measure_->setAccessibleName(tr("What the chart shows"));
   connect(measure_, &QComboBox::currentIndexChanged, this, [this] { ShowChart(); });
-  auto* shows = new QLabel(tr("&Chart:"), side);
-  shows->setBuddy(measure_);
-  auto* save = new QPushButton(tr("Sa&ve Chart..."), side);
+  auto* shows = new QLabel(tr("Chart:"), side);
+  auto* save = new QPushButton(tr("Save Chart..."), side);
   save->setObjectName(QStringLiteral("chartSave"));
   save->setAutoDefault(false);
   connect(save, &QPushButton::clicked, this, [this] {
@@ -160,11 +159,9 @@ QWidget* GlanceView::MakeTableSide() {
       OnOpen(entry.constData());
     }
   });
-  auto* totalsHeading = Heading(tr("&Totals of the year"), side);
-  totalsHeading->setBuddy(totals_);
+  auto* totalsHeading = Heading(tr("Totals of the year"), side);
   totals_->setAccessibleName(tr("Totals of the year"));
-  auto* workHeading = Heading(tr("What wants to be &done"), side);
-  workHeading->setBuddy(work_);
+  auto* workHeading = Heading(tr("What wants to be done"), side);
   work_->setAccessibleName(tr("What wants to be done"));
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins({});
