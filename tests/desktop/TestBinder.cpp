@@ -13,6 +13,7 @@
 
 #include "DesktopRun.h"
 #include "desktop/binder/ScreenDialog.h"
+#include "desktop/binder/TypedDateEdit.h"
 #include "screen/Buttons.h"
 #include "screen/Lists.h"
 #include "screen/MaskedText.h"
@@ -150,6 +151,18 @@ TEST_F(Binder, BoxesListsAndPagesFollowBothWays) {
   EXPECT_EQ(combo.currentText(), "NS");
   EXPECT_EQ(tabs.currentIndex(), 0);
   EXPECT_EQ(window_.windowTitle(), "Other");
+}
+
+TEST_F(Binder, ADateIsTypedWithOrWithoutZeros) {
+  for (const char* typed : {"1/2/2025", "01/02/2025", "0102/2025", "1/02/2025"}) {
+    TypedDateEdit edit(QDate(2026, 11, 23));
+    edit.setDisplayFormat(QStringLiteral("M/d/yyyy"));
+    edit.show();
+    edit.setFocus();
+    edit.setSelectedSection(QDateTimeEdit::MonthSection);
+    QTest::keyClicks(&edit, QLatin1String(typed));
+    EXPECT_EQ(edit.date(), QDate(2025, 1, 2)) << typed;
+  }
 }
 
 }  // namespace

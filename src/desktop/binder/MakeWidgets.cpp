@@ -3,7 +3,6 @@
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,6 +24,7 @@
 #include "desktop/binder/Mnemonics.h"
 #include "desktop/binder/QtText.h"
 #include "desktop/binder/TextBinding.h"
+#include "desktop/binder/TypedDateEdit.h"
 #include "desktop/binder/ValueBindings.h"
 #include "desktop/binder/WindowBinder.h"
 
@@ -103,7 +103,7 @@ QTreeView* WindowBinder::Make(ListView& control) {
 }
 
 QDateEdit* WindowBinder::Make(DatePicker& control) {
-  return Bound<PickerBinding>(*this, control, new QDateEdit(&window_));
+  return Bound<PickerBinding>(*this, control, new TypedDateEdit(&window_));
 }
 
 QCalendarWidget* WindowBinder::Make(Calendar& control) {
