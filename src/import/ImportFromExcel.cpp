@@ -41,8 +41,8 @@ class Import {
     for (std::size_t place = 0; place < cells.size(); ++place) {
       if (!cells[place].unreadable) {
         table_.SetField(target_.columns[place].column, cells[place].text);
-        Tell(place);
       }
+      Tell(place);
     }
     for (const auto& [column, value] : target_.defaults) {
       table_.SetField(column, value);

@@ -56,7 +56,7 @@ void frmImport::ConnectControls() {
     const std::string path =
         context_.services.AskForFile({"", "(*.xls)|*.xls|(*.*)|*.*", txtExcelSource.Text()});
     if (!path.empty()) {
-      ChooseSource(path);
+      ChooseSource(WithUsualEnding(path));
     }
   };
   cmdImportExcel.OnClick = [this] { ImportData(); };
@@ -132,6 +132,11 @@ bool frmImport::SetProperty(std::string_view name, std::string_view value) {
 bool frmImport::IsFileThere(const std::string& path) {
   std::error_code ignored;
   return !std::filesystem::is_directory(path, ignored) && std::ifstream(path).is_open();
+}
+
+std::string frmImport::WithUsualEnding(const std::string& path) {
+  const bool hasEnding = GetNamePart(path).find('.') != std::string::npos;
+  return hasEnding || IsFileThere(path) ? path : path + ".xls";
 }
 
 void frmImport::ChooseSource(const std::string& path) {

@@ -66,6 +66,8 @@ class frmImport : public Screen {
 
   /// Whether the file can be read.
   [[nodiscard]] static bool IsFileThere(const std::string& path);
+  /// A name without an ending is that of an .xls file.
+  [[nodiscard]] static std::string WithUsualEnding(const std::string& path);
   /// Takes a spreadsheet's path as chosen; one that isn't there is told of.
   void ChooseSource(const std::string& path);
   /// Makes a backup first, when there are rows to import.

@@ -116,7 +116,8 @@ std::string Prepare(std::string_view bytes, CsvBlanks blanks) {
 // Collects what the parser reports, and counts lines, those inside quoted cells included.
 class RowCollector : public orcus::csv_handler {
  public:
-  explicit RowCollector(std::string_view text) : end_(text.data() + text.size()) {}
+  RowCollector(std::string_view text, CsvBlanks blanks)
+      : end_(text.data() + text.size()), blanks_(blanks) {}
 
   void begin_row() { row_ = {line_, ++number_, {}}; }
   void cell(std::string_view value, bool transient) {
@@ -134,9 +135,7 @@ class RowCollector : public orcus::csv_handler {
     for (const std::string& text : row_.cells) {
       line_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
     }
-    const bool empty =
-        row_.cells.empty() || (row_.cells.size() == 1 && Trim(row_.cells[0]).empty());
-    if (!empty) {
+    if (!IsEmpty()) {
       rows_.push_back(std::move(row_));
     }
   }
@@ -145,7 +144,16 @@ class RowCollector : public orcus::csv_handler {
   [[nodiscard]] std::vector<CsvRow> TakeRows() { return std::move(rows_); }
 
  private:
+  [[nodiscard]] bool IsEmpty() const {
+    if (row_.cells.size() != 1) {
+      return row_.cells.empty();
+    }
+    const std::string& only = row_.cells.front();
+    return (blanks_ == CsvBlanks::kKept ? only : Trim(only)).empty();
+  }
+
   const char* end_;
+  CsvBlanks blanks_;
   std::size_t line_ = 1;
   std::size_t number_ = 0;
   CsvRow row_;
@@ -204,7 +212,7 @@ CsvFile CsvFile::Parse(std::string_view bytes, const std::string& name, CsvBlank
     Refuse(fmt::format("'{}' is no CSV file. Please save the sheet as CSV, in UTF-8.", name));
   }
   const std::string text = Prepare(bytes, blanks);
-  RowCollector collector(text);
+  RowCollector collector(text, blanks);
   try {
     RunParser(text, blanks, collector);
   } catch (const std::exception&) {

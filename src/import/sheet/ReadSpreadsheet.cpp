@@ -35,6 +35,10 @@ void RequireFile(const std::string& path) {
   if (!std::filesystem::exists(path, ignored)) {
     throw RuntimeError(error_number::kFileNotFound, fmt::format("There is no file '{}'.", path));
   }
+  // The readers go through it more than once.
+  if (!std::filesystem::is_regular_file(path, ignored)) {
+    RefuseSheet(path, "can't be read: it is no file on a disk.");
+  }
 }
 
 void RequireSmallFile(const std::string& path) {

@@ -62,7 +62,7 @@ TEST(CsvFile, ReadsWhatSpreadsheetsWrite) {
 
 TEST(CsvFile, KeepsBlanksWhenWished) {
   EXPECT_EQ(CellsOf(CsvFile::Parse(" a , \"b, c\"\n  \n\"d \" , ,e\n", "x.csv", CsvBlanks::kKept)),
-            (Rows{{" a ", " \"b", " c\""}, {"d ", " ", "e"}}));
+            (Rows{{" a ", " \"b", " c\""}, {"  "}, {"d ", " ", "e"}}));
 }
 
 TEST(CsvFile, TellsTheLineOfARow) {
