@@ -10,6 +10,7 @@
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
 #include "data/CheckedCopy.h"
+#include "data/FolderTurn.h"
 
 namespace lorvane {
 namespace {
@@ -56,10 +57,11 @@ Backup Backups::Make(const DataConnection& connection, const DateTime& now,
   RequireRoom(roomToLeave);
   const bool first = !files_.Exists(folder_);
   const std::string unfinished = folder_ + "/" + kUnfinished;
+  if (first) {
+    MakeOwnFolder();
+  }
+  const FolderTurn turn(folder_);
   try {
-    if (first) {
-      files_.MakeFolder(folder_);
-    }
     RemoveWithFiles(unfinished);
     files_.MakeFolder(unfinished);
     CopyInto(unfinished, connection);
@@ -88,6 +90,17 @@ void Backups::RequireRoom(std::uintmax_t roomToLeave) const {
     throw RuntimeError(
         error_number::kDiskFull,
         "The disk has no room for it: " + std::to_string(needed) + " bytes must be free.");
+  }
+}
+
+void Backups::MakeOwnFolder() const {
+  try {
+    files_.MakeFolder(folder_);
+  } catch (const RuntimeError& error) {
+    // Another program may have been faster.
+    if (error.Number() != error_number::kFileAlreadyExists) {
+      throw;
+    }
   }
 }
 

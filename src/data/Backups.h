@@ -37,13 +37,15 @@ class Backups {
   /// file beside it. The copy is compared with the file before it counts as a backup; then the
   /// oldest ones go, down to kKept.
   ///
-  /// Raises 61 when the disk wouldn't have `roomToLeave` bytes left, 3704 for a closed connection,
-  /// and what copying raises; nothing is left behind then.
+  /// Raises 61 when the disk wouldn't have `roomToLeave` bytes left, 70 when another program's
+  /// backup of the company takes too long, 3704 for a closed connection, and what copying raises;
+  /// nothing is left behind then.
   Backup Make(const DataConnection& connection, const DateTime& now,
               std::uintmax_t roomToLeave = 0);
 
  private:
   void RequireRoom(std::uintmax_t roomToLeave) const;
+  void MakeOwnFolder() const;
   void CopyInto(const std::string& folder, const DataConnection& connection) const;
   [[nodiscard]] std::string NewName(const DateTime& now) const;
   [[nodiscard]] bool IsPlain(const std::string& folder) const;

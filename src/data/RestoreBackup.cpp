@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,6 +14,8 @@
 
 namespace lorvane {
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr const char* kConfigName = "LorvaneConfig.ini";
 
@@ -89,6 +93,17 @@ void RequireNoCompany(Files& files, const std::string& dataFile, const std::stri
   }
 }
 
+// What a backup's folder holds besides would make it no backup any more.
+void RequireOutside(const std::string& backup, const std::string& folder) {
+  std::error_code ignored;
+  const fs::path inner = fs::weakly_canonical(fs::absolute(folder, ignored), ignored);
+  const fs::path outer = fs::weakly_canonical(fs::absolute(backup, ignored), ignored);
+  if (std::mismatch(outer.begin(), outer.end(), inner.begin(), inner.end()).first == outer.end()) {
+    throw RuntimeError(error_number::kFileAlreadyExists,
+                       "'" + folder + "' lies in the backup: a company is restored outside it.");
+  }
+}
+
 // A backup may lie where nobody can write.
 std::unique_ptr<DataConnection> OpenToRead(const DataConnection& connection,
                                            const std::string& dataFile) {
@@ -113,6 +128,7 @@ RestoredCompany RestoreBackup(const DataConnection& connection, Files& files,
   const std::string sourceConfig = FindWithoutCase(GetPathPart(source) + kConfigName);
   const std::string target = WithSeparator(folder) + GetNamePart(source);
   const std::string targetConfig = WithSeparator(folder) + kConfigName;
+  RequireOutside(backup, folder);
   RequireInOrder(connection, source);
   RequireClosed(files, source);
   RequireNoCompany(files, target, targetConfig);

@@ -1,8 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
+#include <future>
+#include <optional>
 
 #include "data/Backups.h"
+#include "data/FolderTurn.h"
 #include "support/ErrorOf.h"
 #include "support/RowsText.h"
 #include "support/TestCompany.h"
@@ -195,6 +199,23 @@ TEST_F(BackupTest, AFailedRestoringLeavesNothingBehind) {
   company_.Disk().Write(made.folder + "/Data.mdb", "no data file at all");
   EXPECT_EQ(ErrorOf([&] { Restore(made.folder, folder); }), error_number::kEngineFailure);
   EXPECT_FALSE(fs::exists(folder));
+}
+
+TEST_F(BackupTest, NothingIsRestoredIntoABackup) {
+  const Backup made = Make();
+  EXPECT_EQ(ErrorOf([&] { Restore(made.folder, made.folder + "/in"); }),
+            error_number::kFileAlreadyExists);
+  EXPECT_EQ(Names("Backup/" + made.name), (Strings{"Data.mdb", "LorvaneConfig.ini"}));
+}
+
+// As two programs would: one waits for the other.
+TEST_F(BackupTest, AreMadeInTurns) {
+  std::optional<FolderTurn> other(std::in_place, company_.Folder());
+  std::future<void> waiting =
+      std::async(std::launch::async, [&] { const FolderTurn turn(company_.Folder()); });
+  EXPECT_EQ(waiting.wait_for(std::chrono::milliseconds(120)), std::future_status::timeout);
+  other.reset();
+  waiting.get();
 }
 
 // Copies go block after block, whatever the size.
