@@ -20,6 +20,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
+
 [[noreturn]] void Fail(int code, const std::string& path) {
   const std::string sentence = "'" + path + "': " + std::generic_category().message(code);
   switch (code) {
@@ -97,6 +99,14 @@ class TemporaryFile {
     }
   }
 
+  // As what it will replace may be read and written by others.
+  void TakePermissions() {
+    struct stat replaced {};
+    if (stat(place_.c_str(), &replaced) == 0 &&
+        fchmod(handle_, replaced.st_mode & kPermissions) != 0) {
+      Fail(errno, place_);
+    }
+  }
   void Write(std::string_view content) {
     while (!content.empty()) {
       const ssize_t written = write(handle_, content.data(), content.size());
@@ -136,6 +146,7 @@ std::optional<std::string> DiskFiles::Read(const std::string& path) {
 
 void DiskFiles::Write(const std::string& path, std::string_view content) {
   TemporaryFile file(path);
+  file.TakePermissions();
   file.Write(content);
   file.Place(true);
 }
@@ -176,8 +187,7 @@ void DiskFiles::Replace(const std::string& from, const std::string& to) {
   }
   struct stat replaced {};
   const bool ready = stat(to.c_str(), &replaced) == 0 &&
-                     fchmod(handle, replaced.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)) == 0 &&
-                     fsync(handle) == 0;
+                     fchmod(handle, replaced.st_mode & kPermissions) == 0 && fsync(handle) == 0;
   const int code = errno;
   close(handle);
   if (!ready) {

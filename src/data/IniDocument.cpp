@@ -73,8 +73,8 @@ std::optional<std::string> IniDocument::Get(std::string_view section, std::strin
 }
 
 void IniDocument::Set(std::string_view section, std::string_view key, std::string_view value) {
-  const std::string line =
-      std::string(key) + "=" + Replace(Replace(Replace(value, "\r\n", " "), "\n", " "), "\r", " ");
+  const std::string assignment =
+      "=" + Replace(Replace(Replace(value, "\r\n", " "), "\n", " "), "\r", " ");
   std::optional<Span> span = SpanOf(section);
   if (!span) {
     lines_.push_back("[" + std::string(section) + "]");
@@ -86,12 +86,12 @@ void IniDocument::Set(std::string_view section, std::string_view key, std::strin
       continue;
     }
     if (EqualsNoCase(KeyOf(lines_[i]), TrimWhite(key))) {
-      lines_[i] = line;
+      lines_[i] = KeyOf(lines_[i]) + assignment;
       return;
     }
     end = i + 1;
   }
-  lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(end), line);
+  lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(end), std::string(key) + assignment);
 }
 
 std::vector<std::string> IniDocument::Section(std::string_view section) const {

@@ -20,7 +20,8 @@ class IniDocument {
   [[nodiscard]] std::optional<std::string> Get(std::string_view section,
                                                std::string_view key) const;
   /// Sets a value. A missing section is added at the end, a missing key at the end of its section.
-  /// A line break in a value becomes a blank: the file knows one line a key.
+  /// A key that is there keeps its spelling. A line break in a value becomes a blank: the file
+  /// knows one line a key.
   void Set(std::string_view section, std::string_view key, std::string_view value);
   /// The lines of the section in file order, each key and value joined by an equals sign.
   [[nodiscard]] std::vector<std::string> Section(std::string_view section) const;

@@ -97,7 +97,7 @@ TEST_F(CheckList, StepsAreTakenInTheirOrderAndOnce) {
   const std::vector<std::string> environment =
       company_.GetSession().Ini().SectionGet("Environment");
   EXPECT_EQ(environment, (std::vector<std::string>{"ToolBar=-1", "StatusBar=-1", "Setup=0",
-                                                   "Datafiles=-1", "Company=0", "SubContractors=-1",
+                                                   "DataFiles=-1", "Company=0", "SubContractors=-1",
                                                    "Employees=-1", "Name=None"}));
 }
 

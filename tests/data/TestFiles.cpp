@@ -75,6 +75,15 @@ TEST_F(FilesOnDisk, FoldersAreNamedAnewAndRemovedWhenEmpty) {
   EXPECT_EQ(ErrorOf(new_, [&] { static_cast<void>(files_.FreeSpace(new_)); }), 53);
 }
 
+TEST_F(FilesOnDisk, WhatIsWrittenOverKeepsItsPermissions) {
+  namespace fs = std::filesystem;
+  files_.Write(old_, "alone");
+  fs::permissions(old_, fs::perms(0660));
+  files_.Write(old_, "shared");
+  EXPECT_EQ(files_.Read(old_), "shared");
+  EXPECT_EQ(fs::status(old_).permissions(), fs::perms(0660));
+}
+
 TEST_F(FilesOnDisk, CopyWholeAndNeverOverAFile) {
   std::string content(200000, 'x');
   content[70000] = '\0';

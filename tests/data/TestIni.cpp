@@ -97,7 +97,7 @@ TEST_F(Ini, WritesWhereTheKeyBelongsAndKeepsTheRest) {
   Save("Assessment", "Industry", "2");
   Save("Environment", "Name", "Tern\r\nLtd");
   EXPECT_EQ(Content(),
-            "; Harbour Fish\r\n[DataBase]\r\npath=D:\\\r\nYE=1\r\n\r\n[Assessment]\r\n"
+            "; Harbour Fish\r\n[DataBase]\r\nPath=D:\\\r\nYE=1\r\n\r\n[Assessment]\r\n"
             "LastEntry=1/5/2026\r\n; the view\r\n Default = 1 \r\n"
             "Name=\"  Caf\xC3\xA9 = Bar \"\r\nnonsense\r\nEmpty=\r\nIndustry=2\r\n\r\n; the end\r\n"
             "[Remittance]\r\nCopies=1\r\n[assessment]\r\nSecond=2\r\n"
