@@ -151,7 +151,12 @@ std::int32_t DataConnection::NextKey(const std::string& tableName, const std::st
     if (counter.Eof()) {
       break;
     }
-    const std::int32_t candidate = ToLong(NullToDouble(counter.Field("NextId")) + 1);
+    const Value last = counter.Field("NextId");
+    if (IsNull(last)) {
+      // Counting from nothing would hand out one key again and again.
+      throw RuntimeError(error_number::kTypeMismatch);
+    }
+    const std::int32_t candidate = ToLong(NullToDouble(last) + 1);
     const std::int64_t affected = RunWithRetry(errors, [&] {
       return connection.Execute("UPDATE tblTableIDs SET NextId = NextId + 1 " + where);
     });

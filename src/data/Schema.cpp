@@ -94,13 +94,13 @@ TableDefinition SubContractors() {
 // The statements of the history name AccWages; nothing ever fills it.
 TableDefinition EmployeeHistory() {
   return TableBuilder("tblEmpHistory")
-      .Add({Key("TransactionId"), Long("EmployeeId"), Date("DtCreate"), Amount("AccWages")})
+      .Add({Key("TransactionId"), Long("EmployeeId"), Date("DtCreate")})
       .AddSlots(Date("PayDate"))
       .AddSlots(Amount("Amount"))
       .AddSlots(Amount("AssessAmt"))
       .Add({Amount("AssessRt")})
       .AddSlots(YesNo("Ind"))
-      .Add({Amount("Remittance")})
+      .Add({Amount("Remittance"), Amount("AccWages")})
       .Done();
 }
 

@@ -208,6 +208,8 @@ TEST(TableIDGetOnFile, GivesKeysOfANewCompany) {
   EXPECT_EQ(connection.TableIDGet("tblEmployees", "EmployeeId"), 1);
   EXPECT_EQ(connection.TableIDGet("TBLEMPLOYEES", "EmployeeId"), 2);
   EXPECT_EQ(connection.TableIDGet("tblAssessable", "AssessId"), 14);
+  company.Execute("UPDATE tblTableIDs SET NextId = Null WHERE TableName = 'tblAssets'");
+  EXPECT_EQ(connection.TableIDGet("tblAssets", "AssetId"), -1);
   company.Execute("DELETE FROM tblTableIDs WHERE TableName = 'tblAssets'");
   EXPECT_EQ(connection.TableIDGet("tblAssets", "AssetId"), -1);
   EXPECT_TRUE(connection.ErrorMsg().starts_with("Error #: -2147217900\r\n"));

@@ -40,6 +40,18 @@ void RequireFile(const std::string& path) {
   }
 }
 
+[[noreturn]] void FailWriteProtected(const std::string& path) {
+  FailFile(path, "can't be written. Is it or its folder write-protected?");
+}
+
+// Before the engine looks: the files that it makes beside the data file take over its protection,
+// and would stay.
+void RequireWritableFile(const std::string& path) {
+  if (access(path.c_str(), R_OK) == 0 && access(path.c_str(), W_OK) != 0) {
+    FailWriteProtected(path);
+  }
+}
+
 struct FileHeader {
   sqlite3_int64 size = 0;
   Salt bytes{};
@@ -85,7 +97,7 @@ bool IsWriteProtected(const std::string& path) {
 
 void SetUp(Database& database) {
   if (IsReadOnly(database)) {
-    FailFile(database.Path(), "can't be written. Is it or its folder write-protected?");
+    FailWriteProtected(database.Path());
   }
   if (database.ReadText("PRAGMA journal_mode = WAL") != "wal") {
     FailFile(database.Path(), "can't be written in its folder.");
@@ -119,6 +131,7 @@ std::unique_ptr<EngineConnection> FileEngine::Open(const std::string& path,
                                                    const std::string& password) {
   const std::string absolute = AbsolutePath(path);
   RequireFile(absolute);
+  RequireWritableFile(absolute);
   auto database = std::make_unique<Database>(absolute);
   Unlock(*database, password);
   SetUp(*database);
