@@ -1,7 +1,5 @@
 #include "employer/cAssets.h"
 
-#include <algorithm>
-
 #include "data/modDataAccess.h"
 
 namespace lorvane {
@@ -11,12 +9,6 @@ constexpr const char* kKey = "AssetId, ";
 constexpr const char* kColumns =
     "Description, SerialNo, LicenseNo, IsVehicle, VehicleMake, VehicleModel, VehicleYear, "
     "VehicleColour";
-
-bool IsYear(const std::string& text) {
-  constexpr std::size_t kLongestYear = 4;
-  return text.size() <= kLongestYear &&
-         std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
 
 }  // namespace
 
@@ -74,14 +66,5 @@ std::string cAssets::BuildOrderBy() const {
 std::string cAssets::InsertText() const { return InsertOf(std::string(kKey) + kColumns); }
 
 std::string cAssets::UpdateText() const { return UpdateOf(kColumns) + WhereKey(); }
-
-bool cAssets::ValidateRecord() {
-  ClearInfo();
-  if (!IsYear(VehicleYear)) {
-    infoMsg_ = "Please enter the year of the vehicle in four digits.";
-    fieldInError_ = "VehicleYear";
-  }
-  return infoMsg_.empty();
-}
 
 }  // namespace lorvane

@@ -44,8 +44,6 @@ class cAssets : public Record {
   [[nodiscard]] const char* DeleteVerb() const override { return "DELETE * FROM "; }
   [[nodiscard]] std::string InsertText() const override;
   [[nodiscard]] std::string UpdateText() const override;
-  /// Refuses a year that the column can't hold.
-  bool ValidateRecord() override;
 };
 
 }  // namespace lorvane

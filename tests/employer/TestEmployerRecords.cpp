@@ -46,23 +46,6 @@ TEST_F(EmployerRecords, Statements) {
   CheckStatements("employer/statements/cAssets.txt", asset);
 }
 
-TEST_F(EmployerRecords, AYearThatIsNoNumberConsumesNoKey) {
-  cAssets asset;
-  Fill(asset);
-  asset.SetDataConnection(&connection_);
-  for (const char* year : {"98x", "19.8", "-198", "19980", " 98", "1e3", "٤"}) {
-    asset.VehicleYear = year;
-    EXPECT_FALSE(asset.AddNew()) << year;
-    EXPECT_FALSE(asset.Update()) << year;
-    EXPECT_EQ(asset.FieldInError(), "VehicleYear");
-    EXPECT_EQ(asset.InfoCode(), 0);
-  }
-  EXPECT_EQ(engine_.TakeStatements(), "");
-  asset.VehicleYear = "";
-  EXPECT_TRUE(asset.AddNew());
-  EXPECT_EQ(asset.FieldInError(), "");
-}
-
 template <typename RecordClass>
 void CheckRefusals(RecordingEngine& engine, DataConnection& connection, const std::string& name,
                    const std::string& table) {
