@@ -256,14 +256,15 @@ bool frmCompany::Save() {
   const bool added = newRecord_;
   const bool companySaved = added ? company_.AddNew() : company_.Update();
   newRecord_ = newRecord_ && !companySaved;
-  const bool saved = companySaved && industries_.Update();
+  const bool industriesSaved = industries_.Update();
+  if (!added) {
+    WithoutEditing([this] {
+      generalPage.Show(company_);
+      industryPage.ShowUsed(industries_);
+    });
+  }
+  const bool saved = companySaved && industriesSaved;
   if (saved) {
-    if (!added) {
-      WithoutEditing([this] {
-        generalPage.Show(company_);
-        industryPage.ShowUsed(industries_);
-      });
-    }
     ForgetChanges();
   }
   services.SetPointer(pointer::kDefault);

@@ -110,15 +110,20 @@ void frmSelectAssessment::LoadIndustryList() {
   }
 }
 
-// The kind of payee stands in the section's second line, behind the key and its equals sign.
+// The kind of payee stands in the section's second line, behind the key and its equals sign. When
+// it can't be read the user is told and chooses on the screen.
 void frmSelectAssessment::ApplyScreenDefaults() {
   constexpr int kDefaultLine = 1;
   constexpr std::size_t kValueFrom = 9;
   const std::vector<std::string> settings = context_.session.Ini().SectionGet(kSection);
-  if (ToInteger(Mid(At(settings, kDefaultLine), kValueFrom)) == 0) {
-    optEmployee.Choose();
-  } else {
-    optSubContractor.Choose();
+  try {
+    if (ToInteger(Mid(At(settings, kDefaultLine), kValueFrom)) == 0) {
+      optEmployee.Choose();
+    } else {
+      optSubContractor.Choose();
+    }
+  } catch (const RuntimeError& error) {
+    ShowError(context_, error, box::kCritical);
   }
 }
 

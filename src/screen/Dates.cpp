@@ -15,7 +15,7 @@ void DatePicker::SetDate(const DateTime& date) {
   if ((earliest_ && day < *earliest_) || (latest_ && day > *latest_)) {
     throw RuntimeError(error_number::kDateOutOfRange);
   }
-  date_ = day;
+  date_ = date;
   Changed();
   if (OnChange) {
     OnChange();

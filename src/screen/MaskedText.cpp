@@ -23,6 +23,10 @@ std::string MaskedText::EmptyText() const {
 }
 
 void MaskedText::Edit(int key) {
+  const bool isDigit = key >= '0' && key <= '9';
+  if (!isDigit && key != '\b') {
+    return;
+  }
   std::string text = Text().size() == mask_.size() ? Text() : EmptyText();
   std::size_t at = std::min(SelectionStart(), text.size());
   const std::size_t selectionEnd = std::min(at + SelectionLength(), text.size());
@@ -37,7 +41,7 @@ void MaskedText::Edit(int key) {
       }
       text[at] = mask_[at] == kDigitPlace ? kNoDigit : mask_[at];
     }
-  } else if (key >= '0' && key <= '9') {
+  } else {
     while (at < mask_.size() && mask_[at] != kDigitPlace) {
       ++at;
     }

@@ -7,8 +7,8 @@
 namespace lorvane {
 
 /// Hands documents, folders, addresses and programs to the platform. Every operation is true when
-/// the shell took it; else ErrorCode() keeps the shell's code. No exception leaves but for a
-/// program that can't be found at all, which LaunchProgram raises as 53.
+/// the shell took it; else ErrorCode() keeps the shell's code, 0 when there is none. No exception
+/// leaves.
 class cShellExecute {
  public:
   explicit cShellExecute(ScreenServices& services) : services_(&services) {}

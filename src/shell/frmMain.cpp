@@ -205,8 +205,9 @@ void frmMain::RefreshCompanyCaption() {
   cINI ini = context_.session.Ini();
   SetCaption(MainTitle() + " for: " + ini.KeyGet("Environment", "Name", ""));
   const std::string byDefault = ini.KeyGet("Assessment", "Default", "");
-  // A file that lacks the key, or holds nothing there, means the employees.
-  const bool subContractors = !byDefault.empty() && ToDouble(byDefault) != 0;
+  // A company without its file means the employees; a file with nothing in that place is broken.
+  const bool hasFile = context_.session.files.Exists(FindWithoutCase(ini.ConfigName));
+  const bool subContractors = hasFile && ToDouble(byDefault) != 0;
   StatusAssessment(context_, subContractors ? "Sub-Contractor" : "Employee");
 }
 

@@ -73,6 +73,8 @@ TEST_F(Controls, AMaskKeepsItsMarks) {
   Type(box, "\b\b");
   EXPECT_EQ(box.Text(), "416-2__-___");
   SelectText(box);
+  Type(box, "x");
+  EXPECT_EQ(box.Text(), "416-2__-___");
   Type(box, "9");
   EXPECT_EQ(box.Text(), "9__-___-___");
 }
@@ -115,7 +117,9 @@ TEST_F(Controls, ALimitIsKeptByPickersAndProgress) {
   picker.SetLimits(DateTime{2026, 1, 1}, DateTime{2026, 12, 31});
   picker.SetDate({2026, 12, 31, 23, 0, 0});
   EXPECT_EQ(ErrorOf([&] { picker.SetDate({2027, 1, 1}); }), error_number::kDateOutOfRange);
-  EXPECT_EQ(picker.ShownText(), "12/31/2026");
+  EXPECT_EQ(picker.ShownText(), "12/31/2026 11:00:00 PM");
+  picker.UserPick({2026, 12, 30});
+  EXPECT_EQ(picker.ShownText(), "12/30/2026");
   ProgressBar progress(screen_, "prgReport");
   EXPECT_EQ(ErrorOf([&] { progress.SetMaximum(0); }), error_number::kInvalidPropertyValue);
   progress.SetMaximum(3);

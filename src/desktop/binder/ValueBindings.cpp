@@ -29,7 +29,7 @@ void PickerBinding::ShowValue() {
   if (control_.Earliest() && *control_.Earliest() <= control_.Date()) {
     edit_.setMinimumDate(ToQt(*control_.Earliest()));
   }
-  if (control_.Latest() && control_.Date() <= *control_.Latest()) {
+  if (control_.Latest() && control_.Date().Day() <= *control_.Latest()) {
     edit_.setMaximumDate(ToQt(*control_.Latest()));
   }
   if (edit_.date() != ToQt(control_.Date())) {
