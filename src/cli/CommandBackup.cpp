@@ -1,14 +1,36 @@
 #include <filesystem>
 #include <iostream>
+#include <system_error>
 
+#include "basic/Text.h"
+#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "data/Backups.h"
 
 namespace lorvane {
 namespace {
 
-std::string AbsolutePath(const std::string& path) {
-  return std::filesystem::absolute(path).lexically_normal().string();
+namespace fs = std::filesystem;
+
+// A folder that isn't there holds no backups; one that can't be read may hold some.
+void RequireReadable(const std::string& folder) {
+  std::error_code error;
+  const fs::directory_iterator entries(folder, error);
+  if (error && error != std::errc::no_such_file_or_directory) {
+    throw CommandFailure("'" + folder + "' can't be read: " + error.message() + ".");
+  }
+}
+
+// A company's folder and the one of its backups look much like a backup's.
+void RequireNoFolders(const std::string& backup) {
+  std::error_code ignored;
+  for (const fs::directory_entry& entry : fs::directory_iterator(backup, ignored)) {
+    if (entry.is_directory(ignored)) {
+      throw CommandFailure("'" + backup +
+                           "' is no backup: it holds other folders. Name the folder of one backup; "
+                           "'lorvane-cli backups FILE' lists them.");
+    }
+  }
 }
 
 }  // namespace
@@ -30,6 +52,8 @@ int RunBackup(const CommandOptions& options) {
 
 int RunBackups(const CommandOptions& options) {
   CommandProgram program(options);
+  program.RequireFileName();
+  RequireReadable(GetPathPart(program.File()) + "Backup");
   const std::vector<Backup> backups = Backups(program.GetSession().files, program.File()).List();
   for (const Backup& backup : backups) {
     std::cout << backup.name << "  " << backup.size << " bytes  " << backup.folder << '\n';
@@ -43,8 +67,10 @@ int RunBackups(const CommandOptions& options) {
 int RunRestore(const std::string& backup, const std::string& folder) {
   CommandProgram program({});
   Session& session = program.GetSession();
+  const std::string source = AbsolutePath(backup);
+  RequireNoFolders(source);
   const RestoredCompany company =
-      RestoreBackup(*session.gDataConn, session.files, AbsolutePath(backup), AbsolutePath(folder));
+      RestoreBackup(*session.gDataConn, session.files, source, AbsolutePath(folder));
   std::cout << "Restored " << company.dataFile << ": " << company.size << " bytes.\n";
   return 0;
 }

@@ -1,6 +1,6 @@
-#include <filesystem>
 #include <iostream>
 
+#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "import/ImportReport.h"
 #include "import/ImportSubContractors.h"
@@ -29,6 +29,10 @@ void TellOutcome(const ImportOutcome& outcome) {
 }  // namespace
 
 int RunImportSheet(const CommandOptions& options, const ImportOptions& import) {
+  if (import.columns && *import.columns < 1) {
+    throw UsageFailure("--columns takes a number from 1 on, not " +
+                       std::to_string(*import.columns) + ".");
+  }
   CommandProgram program(options);
   program.OpenCompanyToChange();
   std::optional<ImportOutcome> outcome;
@@ -46,7 +50,7 @@ int RunImportSheet(const CommandOptions& options, const ImportOptions& import) {
   program.Services().OpenScreen(
       "frmImport", {{"Employee", import.employees ? "true" : "false"}, {"Excel", "true"}});
   if (!outcome) {
-    return 1;
+    return program.Refused();
   }
   TellOutcome(*outcome);
   return outcome->end == ImportOutcome::End::kImported && outcome->refused.empty() ? 0 : 1;
@@ -62,8 +66,7 @@ int RunImportCompany(const CommandOptions& options, const std::string& source) {
     }
   };
   const std::size_t rows =
-      ImportSubContractors(*program.GetSession().gDataConn,
-                           std::filesystem::absolute(source).lexically_normal(), progress);
+      ImportSubContractors(*program.GetSession().gDataConn, AbsolutePath(source), progress);
   std::cout << "Imported " << Counted(rows, "sub-contractor", "sub-contractors") << ".\n";
   return 0;
 }

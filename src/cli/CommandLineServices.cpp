@@ -25,14 +25,21 @@ void CommandLineServices::OnModal(const std::string& screenName,
 }
 
 int CommandLineServices::MsgBox(const std::string& text, int flags, const std::string& title) {
-  PrintBox(title, text);
+  const auto teller = tellers_.find(title);
+  if (teller == tellers_.end() || !teller->second(text)) {
+    PrintBox(title, text);
+  }
   if (!box::IsQuestion(flags)) {
     return answer::kOk;
   }
   if (assumeYes_) {
     return ConsentTo(flags);
   }
-  return console_.interactive ? AskButton(flags) : RefusalOf(flags);
+  if (console_.interactive) {
+    return AskButton(flags);
+  }
+  refusedUnasked_ = true;
+  return RefusalOf(flags);
 }
 
 std::string CommandLineServices::InputBox(const std::string& prompt, const std::string& title,

@@ -25,6 +25,14 @@ class CommandLineServices : public ScreenHost {
   /// is closed at once.
   void OnModal(const std::string& screenName, std::function<void(Screen&)> handler);
 
+  /// Hands the text of each box of that title on before it is printed; true when that has told it,
+  /// so that it isn't printed.
+  void OnBox(const std::string& title, std::function<bool(const std::string& text)> teller) {
+    tellers_[title] = std::move(teller);
+  }
+  /// Whether a question was refused because nobody was there to answer it.
+  [[nodiscard]] bool RefusedUnasked() const { return refusedUnasked_; }
+
   /// Answers each input box of that title.
   void OnInput(const std::string& title, std::string text) { inputs_[title] = std::move(text); }
 
@@ -64,6 +72,8 @@ class CommandLineServices : public ScreenHost {
   int beeps_ = 0;
   std::map<std::string, std::function<void(Screen&)>, std::less<>> modalHandlers_;
   std::map<std::string, std::string, std::less<>> inputs_;
+  std::map<std::string, std::function<bool(const std::string&)>, std::less<>> tellers_;
+  bool refusedUnasked_ = false;
 };
 
 }  // namespace lorvane

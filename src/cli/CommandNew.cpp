@@ -8,6 +8,7 @@ namespace lorvane {
 
 int RunNew(const CommandOptions& options) {
   CommandProgram program(options);
+  program.RequireFileName();
   Session& session = program.GetSession();
   if (HoldsCompany(session.files, program.File())) {
     throw CommandFailure("'" + GetPathPart(program.File()) +

@@ -5,8 +5,10 @@
 #include "basic/Money.h"
 #include "basic/Number.h"
 #include "basic/RuntimeError.h"
+#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/PaymentWindow.h"
+#include "import/ImportReport.h"
 #include "import/sheet/CsvFile.h"
 
 namespace lorvane {
@@ -27,32 +29,12 @@ auto ReadCell(Read read, const std::string& what) {
   }
 }
 
-// A comma that parts no thousands is no part of an amount: "1,25" isn't 125.
-bool HasStrayComma(const std::string& amount) {
-  constexpr std::size_t kThousands = 3;
-  for (std::size_t comma = amount.find(','); comma != std::string::npos;
-       comma = amount.find(',', comma + 1)) {
-    const std::size_t end = amount.find_first_not_of("0123456789", comma + 1);
-    if (std::min(end, amount.size()) - comma - 1 != kThousands) {
-      return true;
-    }
-  }
-  return false;
-}
-
 std::int32_t IdOf(const std::string& text) {
   const std::int32_t id = ToLong(text);
   if (ToDouble(text) != id) {
     throw RuntimeError(error_number::kTypeMismatch);
   }
   return id;
-}
-
-double AmountOf(const std::string& text) {
-  if (HasStrayComma(text)) {
-    throw RuntimeError(error_number::kTypeMismatch);
-  }
-  return ToDouble(text);
 }
 
 // An amount whose comma has parted it into two cells would lose its end.
@@ -65,6 +47,10 @@ void CheckEnd(const CsvRow& row, const std::string& place) {
   }
 }
 
+bool HasDigit(const std::string& text) {
+  return text.find_first_of("0123456789") != std::string::npos;
+}
+
 std::vector<Payment> ReadPayments(const std::string& path) {
   const CsvFile file = CsvFile::Read(path);
   std::vector<Payment> payments;
@@ -72,7 +58,7 @@ std::vector<Payment> ReadPayments(const std::string& path) {
   for (const CsvRow& row : file.Rows()) {
     const std::string id(row.Cell(0));
     const std::string amount(row.Cell(1));
-    const bool heading = &row == &file.Rows().front() && !IsNumeric(id) && !IsNumeric(amount);
+    const bool heading = &row == &file.Rows().front() && !HasDigit(id) && !HasDigit(amount);
     if (row.cells.size() < 2) {
       throw CommandFailure(file.PlaceOf(row) + ": the amount is missing; a row is \"id,amount\".");
     }
@@ -113,6 +99,7 @@ std::vector<int> RowsOf(const std::vector<Payment>& payments, const PaymentWindo
 }  // namespace
 
 int RunPay(const CommandOptions& options, const PayOptions& pay) {
+  static_cast<void>(SlotOfOption(pay.payees.industry));
   const std::vector<Payment> payments = ReadPayments(pay.paymentsFile);
   CommandProgram program(options);
   program.OpenCompanyForPayments();
@@ -130,8 +117,8 @@ int RunPay(const CommandOptions& options, const PayOptions& pay) {
     }
     window.Save();
   });
-  std::cout << "Saved " << payments.size() << " entries of " << Money(total.ToDouble())
-            << " in all.\n";
+  std::cout << "Saved " << Counted(payments.size(), "entry", "entries") << " of "
+            << Money(total.ToDouble()) << " in all.\n";
   return 0;
 }
 

@@ -1,8 +1,10 @@
 #include <iostream>
+#include <set>
 
-#include "basic/RuntimeError.h"
+#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/PaymentWindow.h"
+#include "import/ImportReport.h"
 
 namespace lorvane {
 namespace {
@@ -14,25 +16,23 @@ std::vector<int> RowsOf(const PaymentWindow& window, const PostOptions& post) {
       rows.push_back(row);
     }
   }
-  for (const std::int32_t id : post.ids) {
+  for (const std::int32_t id : std::set(post.ids.begin(), post.ids.end())) {
     rows.push_back(window.RowOf(id));
   }
   return rows;
 }
 
 std::string ReasonIn(const std::vector<EngineError>& errors) {
-  return errors.empty() ? std::string()
-                        : " The reason: error " + ErrorNumberText(errors.front().number) + ": " +
-                              errors.front().description;
+  return errors.empty()
+             ? std::string()
+             : " The reason: " + ErrorSentence(errors.front().number, errors.front().description);
 }
 
 }  // namespace
 
 int RunPost(const CommandOptions& options, const PostOptions& post) {
-  const std::optional<DateTime> date = ParseDate(post.date);
-  if (!date) {
-    throw CommandFailure("'" + post.date + "' is no date.");
-  }
+  static_cast<void>(SlotOfOption(post.payees.industry));
+  const DateTime date = DayOfArgument(post.date);
   CommandProgram program(options);
   program.OpenCompanyForPayments();
   const std::string count = std::string("SELECT Count(*) AS Rows FROM ") +
@@ -46,11 +46,11 @@ int RunPost(const CommandOptions& options, const PostOptions& post) {
     window.ShowSavedAmounts();
     entries = window.EntriesIn(rows);
     before = std::get<std::int32_t>(program.QueryValue(count));
-    posted = window.Post(rows, date->Day());
+    posted = window.Post(rows, date);
     after = std::get<std::int32_t>(program.QueryValue(count));
   });
   if (!posted) {
-    return 1;
+    return program.Refused();
   }
   if (after - before < entries) {
     throw CommandFailure("Only " + std::to_string(after - before) + " of " +
@@ -59,7 +59,8 @@ int RunPost(const CommandOptions& options, const PostOptions& post) {
                          ReasonIn(program.Connection().Errors()));
   }
   program.RaiseEngineError();
-  std::cout << "Posted " << after - before << " payments of " << ShortDate(date->Day()) << ".\n";
+  std::cout << "Posted " << Counted(static_cast<std::size_t>(after - before), "payment", "payments")
+            << " of " << ShortDate(date) << ".\n";
   return 0;
 }
 

@@ -6,6 +6,7 @@
 
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
+#include "cli/Arguments.h"
 #include "cli/CompanyCheck.h"
 #include "cli/Console.h"
 #include "print/OffscreenPainter.h"
@@ -15,9 +16,7 @@
 namespace lorvane {
 
 CommandProgram::CommandProgram(const CommandOptions& options)
-    : file_(options.file.empty()
-                ? options.file
-                : std::filesystem::absolute(options.file).lexically_normal().string()),
+    : file_(options.file.empty() ? options.file : AbsolutePath(options.file)),
       engine_(MakeFileEngine()),
       screens_(AllScreens()),
       painter_(MakeOffscreenPainter()) {
@@ -32,6 +31,7 @@ CommandProgram::~CommandProgram() { session_->gDataConn->DataClose(); }
 
 void CommandProgram::OpenCompany() {
   OpenFile();
+  RequireReadableSettings();
   const std::string table = VerifyCompanyTables(Context());
   if (!table.empty()) {
     if (Connection().HasTable(table)) {
@@ -62,6 +62,14 @@ void CommandProgram::OpenCompanyToChange() {
   }
 }
 
+// One that can't be read might be an archive's.
+void CommandProgram::RequireReadableSettings() const {
+  const std::string config = FindWithoutCase(session_->gConfigFile);
+  if (session_->files.Exists(config) && !session_->files.Read(config)) {
+    throw CommandFailure("'" + config + "' can't be read.");
+  }
+}
+
 bool CommandProgram::IsArchive() const {
   return !session_->Ini().KeyGet("DataBase", "YE", "").empty();
 }
@@ -72,6 +80,20 @@ void CommandProgram::OpenCompanyForPayments() {
   if (!findings.empty()) {
     throw CommandFailure(findings.front());
   }
+}
+
+void CommandProgram::RequireFileName() const {
+  std::error_code ignored;
+  if (GetNamePart(file_).empty() || std::filesystem::is_directory(file_, ignored)) {
+    throw CommandFailure("'" + file_ + "' is a folder: the name of a data file is wanted.");
+  }
+}
+
+int CommandProgram::Refused() const {
+  if (services_->RefusedUnasked()) {
+    throw CommandFailure("Nothing was done. --yes answers the question with Yes.");
+  }
+  return 1;
 }
 
 void CommandProgram::Warn(const std::string& sentence) {
@@ -90,6 +112,10 @@ void CommandProgram::RaiseEngineError() {
 Value CommandProgram::QueryValue(const std::string& statement) {
   const ResultTable table = Connection().Query(statement);
   return table.rows.empty() ? Value() : table.rows.front().front();
+}
+
+std::string ErrorSentence(std::int32_t number, const std::string& description) {
+  return "error " + ErrorNumberText(number) + ": " + description;
 }
 
 }  // namespace lorvane

@@ -1,20 +1,15 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
-#include <stdexcept>
 #include <string>
 
+#include "cli/CommandFailure.h"
 #include "cli/CommandLineServices.h"
 #include "reports/ReportPainter.h"
 #include "screen/Session.h"
 
 namespace lorvane {
-
-/// A command that can't be done: a sentence for standard error and exit status 1.
-class CommandFailure : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 /// What every command has in common.
 struct CommandOptions {
@@ -33,7 +28,8 @@ class CommandProgram {
   ~CommandProgram();
 
   /// Opens the company as Open Company does, which brings a file of an earlier release up to date.
-  /// Raises CommandFailure with the reason when it can't.
+  /// Raises CommandFailure with the reason when it can't, or when the configuration file can't be
+  /// read.
   void OpenCompany();
   /// As OpenCompany, for commands that look at the file as it stands and leave its tables alone.
   void OpenFile();
@@ -50,6 +46,11 @@ class CommandProgram {
   [[nodiscard]] CommandLineServices& Services() { return *services_; }
   [[nodiscard]] ScreenContext Context() { return services_->Context(); }
   [[nodiscard]] EngineConnection& Connection() { return session_->gDataConn->Connection(); }
+  /// Raises CommandFailure when FILE names a folder, which is no data file's name.
+  void RequireFileName() const;
+  /// The exit status of a command that the user or a box has refused. Raises CommandFailure when a
+  /// question was refused because nobody was there to answer it.
+  [[nodiscard]] int Refused() const;
   /// Puts a sentence on standard error about what stopped nobody; nothing for an empty one.
   static void Warn(const std::string& sentence);
   /// Raises the engine's error that a window or a record passed over in silence, if there was one:
@@ -59,6 +60,8 @@ class CommandProgram {
   [[nodiscard]] Value QueryValue(const std::string& statement);
 
  private:
+  void RequireReadableSettings() const;
+
   std::string file_;
   std::unique_ptr<Engine> engine_;
   DiskFiles files_;
@@ -67,5 +70,8 @@ class CommandProgram {
   std::unique_ptr<Session> session_;
   std::unique_ptr<CommandLineServices> services_;
 };
+
+/// "error 53: There is no file 'x'."
+[[nodiscard]] std::string ErrorSentence(std::int32_t number, const std::string& description);
 
 }  // namespace lorvane

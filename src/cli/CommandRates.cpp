@@ -3,6 +3,7 @@
 
 #include "basic/Number.h"
 #include "basic/Text.h"
+#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "company/RateSheet.h"
 #include "company/RateTables.h"
@@ -11,9 +12,6 @@
 
 namespace lorvane {
 namespace {
-
-constexpr int kFirstYear = 1900;
-constexpr int kLastYear = 2999;
 
 // Rows as ReadRateSheet takes them, whatever kind of file they stood in.
 std::vector<SheetRow> RowsOf(const std::string& path) {
@@ -26,12 +24,6 @@ std::vector<SheetRow> RowsOf(const std::string& path) {
     }
   }
   return rows;
-}
-
-void CheckYear(int year) {
-  if (year < kFirstYear || year > kLastYear) {
-    throw CommandFailure(std::to_string(year) + " is no year of rates.");
-  }
 }
 
 std::vector<PublishedRate> RatesOfSheet(const std::string& path) {
@@ -82,25 +74,26 @@ int RunRatesList(const CommandOptions& options) {
   return 0;
 }
 
-int RunRatesExport(const CommandOptions& options, int year) {
+int RunRatesExport(const CommandOptions& options, const std::string& yearText) {
+  const int year = YearOfArgument(yearText);
   CommandProgram program(options);
   RateTables tables(program.GetSession());
   if (!tables.Has(year)) {
-    throw CommandFailure("There are no rates for " + std::to_string(year) + ".");
+    throw CommandFailure("There are no rates for " + yearText + ".");
   }
   std::cout << CsvLine({"SIC", "Description", "Rate"}) << '\n';
-  for (const PublishedRate& rate : tables.Read(std::to_string(year))) {
+  for (const PublishedRate& rate : tables.Read(yearText)) {
     std::cout << CsvLine({rate.code, rate.description, ShortestText(rate.rate)}) << '\n';
   }
   return 0;
 }
 
-int RunRatesImport(const CommandOptions& options, int year, const std::string& path) {
-  CheckYear(year);
+int RunRatesImport(const CommandOptions& options, const std::string& yearText,
+                   const std::string& path) {
+  const int year = YearOfArgument(yearText);
   const std::vector<PublishedRate> rates = RatesOfSheet(path);
   CommandProgram program(options);
   RateTables tables(program.GetSession());
-  const std::string yearText = std::to_string(year);
   const RateChanges changes =
       CompareRates(tables.Has(year) ? tables.Read(yearText) : std::vector<PublishedRate>(), rates);
   PrintChanges(changes);
@@ -110,7 +103,7 @@ int RunRatesImport(const CommandOptions& options, int year, const std::string& p
   if (program.Services().MsgBox(
           "The rates for " + yearText + " will be as in the sheet.\r\n\r\nDo you wish to continue?",
           box::kYesNo | box::kQuestion, "Rates") != answer::kYes) {
-    throw CommandFailure("Nothing was changed. --yes brings the rates in without asking.");
+    return program.Refused();
   }
   tables.Replace(year, rates);
   std::cout << "Brought " << rates.size() << " rates in for " << yearText << ".\n";

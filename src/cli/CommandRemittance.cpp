@@ -1,6 +1,7 @@
 #include <initializer_list>
 
 #include "basic/Text.h"
+#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/PaymentWindow.h"
 #include "cli/ReportOutput.h"
@@ -10,14 +11,6 @@
 
 namespace lorvane {
 namespace {
-
-DateTime DateOfOption(const std::string& text) {
-  const std::optional<DateTime> date = ParseDate(text);
-  if (!date) {
-    throw CommandFailure("'" + text + "' is no date.");
-  }
-  return date->Day();
-}
 
 struct Period {
   DateTime start;
@@ -60,7 +53,7 @@ ReportDocument MakeReport(CommandProgram& program, RemittanceFill& fill, const P
 }  // namespace
 
 int RunRemittance(const CommandOptions& options, const RemittanceOptions& remittance) {
-  const Period period{DateOfOption(remittance.from), DateOfOption(remittance.to)};
+  const Period period{DayOfArgument(remittance.from), DayOfArgument(remittance.to)};
   const int industryItem = remittance.payees.industry.empty()
                                ? RemittanceFill::kAllIndustries
                                : NumberOf(SlotOfOption(remittance.payees.industry));

@@ -4,6 +4,7 @@
 
 #include "basic/Number.h"
 #include "basic/RuntimeError.h"
+#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/ReportOutput.h"
 #include "reports/RemittanceFill.h"
@@ -14,22 +15,17 @@
 namespace lorvane {
 namespace {
 
-constexpr int kFirstYear = 2000;
-constexpr int kLastYear = 2100;
+constexpr YearRange kReportingYears{2000, 2100};
 
 std::int16_t YearOfOption(const std::string& text) {
-  const std::optional<double> year = ParseNumber(text);
-  if (!year || *year < kFirstYear || *year > kLastYear) {
-    throw CommandFailure("'" + text + "' is no year from 2000 to 2100.");
-  }
-  return ToInteger(*year);
+  return static_cast<std::int16_t>(YearOfArgument(text, kReportingYears));
 }
 
 // The company's current year. Raises CommandFailure when none was ever chosen.
 std::int16_t CurrentYear(CommandProgram& program) {
   const std::string stored = program.GetSession().Ini().KeyGet("Assessment", "CurrentYear", "");
   const std::optional<double> year = ParseNumber(stored);
-  if (!year || *year < kFirstYear || *year > kLastYear) {
+  if (!year || *year < kReportingYears.first || *year > kReportingYears.last) {
     throw CommandFailure("The company has no current year yet: name one with --year.");
   }
   return ToInteger(*year);
@@ -57,8 +53,31 @@ int RunSummary(CommandProgram& program, const ReportOptions& report, std::int16_
   return 0;
 }
 
+// A window tells in three boxes what a company has not filled in yet.
+void TellWhatIsMissing(CommandProgram& program) {
+  CommandLineServices& services = program.Services();
+  services.OnBox("Error", [](const std::string& text) {
+    if (text != NumberAndDescription(RuntimeError(error_number::kSubscriptOutOfRange))) {
+      return false;
+    }
+    CommandProgram::Warn(
+        "The employer update options were never saved, or lines of them are missing in "
+        "LorvaneConfig.ini: the report has none of these.");
+    return true;
+  });
+  services.OnBox("Options", [](const std::string&) { return true; });
+  services.OnBox("Company", [&](const std::string&) {
+    if (!program.Connection().Errors().empty()) {
+      return false;
+    }
+    CommandProgram::Warn("The company's information was never filled in.");
+    return true;
+  });
+}
+
 int RunEmployer(CommandProgram& program, const ReportOptions& report, std::int16_t reportType) {
   constexpr std::int16_t kClearance = 3;
+  TellWhatIsMissing(program);
   frmReports viewer(program.Context());
   viewer.SelectReportType = reportType;
   if (!report.year.empty()) {
@@ -98,6 +117,9 @@ int RunReport(const CommandOptions& options, const ReportOptions& report) {
                    [&](const ReportCommand& command) { return command.name == report.name; });
   if (found == kReports.end()) {
     throw CommandFailure("There is no report '" + report.name + "'.");
+  }
+  if (!report.year.empty()) {
+    static_cast<void>(YearOfOption(report.year));
   }
   CommandProgram program(options);
   CheckOutput(program, report.output);

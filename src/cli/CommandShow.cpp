@@ -93,7 +93,8 @@ int RunShow(const CommandOptions& options, bool asJson) {
   program.OpenCompany();
   const Json company = Describe(program);
   if (asJson) {
-    std::cout << company.dump(2) << '\n';
+    // A path may hold bytes that are no text.
+    std::cout << company.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
   } else {
     PrintAsText(company);
   }

@@ -1,5 +1,6 @@
 #include <iostream>
 
+#include "basic/Text.h"
 #include "cli/Commands.h"
 #include "cli/Statements.h"
 #include "reports/ReportExports.h"
@@ -24,7 +25,8 @@ void PrintRows(const ResultTable& table) {
 
 }  // namespace
 
-int RunSql(const CommandOptions& options, const std::string& statement) {
+int RunSql(const CommandOptions& options, const std::string& typed) {
+  const std::string statement = ToUtf8(typed);
   CommandProgram program(options);
   program.OpenFile();
   if (IsSelect(statement)) {

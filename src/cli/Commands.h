@@ -10,7 +10,8 @@
 namespace lorvane {
 
 // The commands of lorvane-cli. Each gives its exit status and raises CommandFailure with the reason
-// when it can't be done; then every table and file is as it was.
+// when it can't be done, UsageFailure when that is how it was written; then every table and file is
+// as it was.
 
 /// A kind of payee and one of the company's industries.
 struct PayeeOptions {
@@ -94,8 +95,8 @@ int RunRollRates(const CommandOptions& options, const std::string& year);
 
 // The published rates of all companies; no company's file is needed.
 int RunRatesList(const CommandOptions& options);
-int RunRatesExport(const CommandOptions& options, int year);
+int RunRatesExport(const CommandOptions& options, const std::string& year);
 /// Shows what the sheet changes, asks, and changes it.
-int RunRatesImport(const CommandOptions& options, int year, const std::string& path);
+int RunRatesImport(const CommandOptions& options, const std::string& year, const std::string& path);
 
 }  // namespace lorvane

@@ -23,7 +23,7 @@ IndustrySlot SlotOfOption(const std::string& industry) {
       return slot;
     }
   }
-  throw CommandFailure("'" + industry + "' is no industry: give one of A to F.");
+  throw UsageFailure("'" + industry + "' is no industry: give one of A to F.");
 }
 
 PaymentWindow::PaymentWindow(CommandProgram& program, frmSelectAssessment& window,

@@ -52,7 +52,7 @@ class PaymentWindow {
   std::size_t paymentPlace_ = 0;
 };
 
-/// The slot of "A" to "F", small letters too. Raises CommandFailure for anything else.
+/// The slot of "A" to "F", small letters too. Raises UsageFailure for anything else.
 [[nodiscard]] IndustrySlot SlotOfOption(const std::string& industry);
 
 }  // namespace lorvane

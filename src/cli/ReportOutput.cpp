@@ -4,6 +4,8 @@
 #include <iostream>
 
 #include "basic/RuntimeError.h"
+#include "basic/Text.h"
+#include "cli/Arguments.h"
 #include "reports/ReportExports.h"
 #include "reports/ReportFiles.h"
 
@@ -16,10 +18,10 @@ void CheckOutput(CommandProgram& program, const std::string& path) {
   try {
     static_cast<void>(ReportFileKindOf(path, program.Services().Painter()));
   } catch (const RuntimeError& error) {
-    throw CommandFailure(error.Description());
+    throw UsageFailure(error.Description());
   }
   std::error_code ignored;
-  if (!std::filesystem::is_directory(std::filesystem::absolute(path).parent_path(), ignored)) {
+  if (!std::filesystem::is_directory(GetPathPart(AbsolutePath(path)), ignored)) {
     throw CommandFailure("'" + path + "' can't be written: there is no such folder.");
   }
 }

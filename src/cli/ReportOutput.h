@@ -10,8 +10,8 @@ namespace lorvane {
 
 // What the commands that make reports share.
 
-/// Raises CommandFailure for a file that a report can't be written to; an empty path is standard
-/// output.
+/// Raises UsageFailure for a file whose ending names no kind, CommandFailure for one whose folder
+/// isn't there; an empty path is standard output.
 void CheckOutput(CommandProgram& program, const std::string& path);
 
 /// The company's heading; empty when its information was never filled in.

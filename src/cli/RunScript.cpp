@@ -1,10 +1,13 @@
 #include "cli/RunScript.h"
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <ostream>
 
 #include "Version.h"
 #include "basic/Text.h"
+#include "cli/CommandFailure.h"
 #include "cli/Console.h"
 #include "cli/ScriptRunner.h"
 #include "data/Files.h"
@@ -15,15 +18,41 @@
 #include "shell/modLorvane.h"
 
 namespace lorvane {
+namespace {
+
+// Far above any script that somebody has written.
+constexpr std::size_t kMostBytes = std::size_t{16} << 20U;
+
+// A pipe will do as well as a file. Raises CommandFailure for what is no script.
+std::string ReadScript(const std::string& path) {
+  std::error_code ignored;
+  if (std::filesystem::is_directory(path, ignored)) {
+    throw CommandFailure("'" + path + "' is a folder: a script is wanted.");
+  }
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    throw CommandFailure("The script '" + path + "' can't be read.");
+  }
+  std::string text;
+  std::string block(1U << 16U, '\0');
+  while (file.read(block.data(), static_cast<std::streamsize>(block.size())) || file.gcount() > 0) {
+    text.append(block, 0, static_cast<std::size_t>(file.gcount()));
+    if (text.size() > kMostBytes) {
+      throw CommandFailure("'" + path + "' is no script: it is larger than 16 MB.");
+    }
+  }
+  if (file.bad()) {
+    throw CommandFailure("The script '" + path + "' can't be read.");
+  }
+  return text;
+}
+
+}  // namespace
 
 int RunScript(const ScriptOptions& options) {
   const Console console = StandardConsole();
   DiskFiles files;
-  const std::optional<std::string> text = files.Read(options.path);
-  if (!text) {
-    console.out << options.path << ": the script can't be read" << std::endl;
-    return 1;
-  }
+  const std::string text = ReadScript(options.path);
   const std::unique_ptr<Engine> engine = MakeFileEngine();
   const std::unique_ptr<ReportPainter> painter = MakeOffscreenPainter();
   const Clock clock = options.now ? FixedClock(*options.now) : SystemClock();
@@ -38,7 +67,7 @@ int RunScript(const ScriptOptions& options) {
   };
   stage.painter = painter.get();
   ScriptRunner runner(std::move(stage), console, clock);
-  return runner.Run(options.path, ToUtf8(*text), variables) ? 0 : 1;
+  return runner.Run(options.path, ToUtf8(text), variables) ? 0 : 1;
 }
 
 }  // namespace lorvane

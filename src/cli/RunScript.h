@@ -17,7 +17,7 @@ struct ScriptOptions {
 };
 
 /// Runs a screen script on the whole program. The exit status: 0 done, 1 failed, with the reason on
-/// standard output.
+/// standard output. Raises CommandFailure for what can't be read, or is no script.
 [[nodiscard]] int RunScript(const ScriptOptions& options);
 
 }  // namespace lorvane

@@ -62,6 +62,12 @@ std::string ErrorText(const RuntimeError& error) {
          OnOneLine(error.Description());
 }
 
+// For a line of the console: a script may hold texts of any length.
+std::string Shortened(const std::string& message) {
+  constexpr std::size_t kLongest = 1000;
+  return Length(message) <= kLongest ? message : Left(message, kLongest) + "...";
+}
+
 // The line that "fails NUMBER LINE" runs.
 ScriptLine InnerLine(const ScriptLine& line) {
   return {line.number, {line.words.begin() + 2, line.words.end()}};
@@ -92,7 +98,7 @@ bool ScriptRunner::Run(const std::string& name, std::string_view text,
     if (failure.line != 0) {
       console_.out << failure.line << ':';
     }
-    console_.out << ' ' << failure.message << std::endl;
+    console_.out << ' ' << Shortened(failure.message) << std::endl;
     return false;
   }
 }
@@ -206,7 +212,7 @@ void ScriptRunner::Act(const ScriptLine& line) {
     console_.out << DescribeScreen(Program().ActiveScreen()) << std::flush;
   } else {
     ScriptActions::Run(Program(), line, [&](const std::string& note) {
-      console_.err << "[script] line " << line.number << ": " << note << std::endl;
+      console_.err << "[script] line " << line.number << ": " << Shortened(note) << std::endl;
     });
   }
 }
@@ -235,7 +241,9 @@ void ScriptRunner::OpenCompany(const std::string& path) {
   if (entry == nullptr) {
     throw ScriptFailure{"the main window has no mnuFOpenCompany"};
   }
-  dialogue_.AnswerNextFile(path.empty() ? path : std::filesystem::absolute(path).string());
+  std::error_code ignored;
+  const std::string full = std::filesystem::absolute(path, ignored).string();
+  dialogue_.AnswerNextFile(full.empty() ? path : full);
   entry->UserClick();
   if (dialogue_.DropNextFile()) {
     throw ScriptFailure{"the main window asked for no file"};

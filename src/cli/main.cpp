@@ -5,6 +5,7 @@
 
 #include "Version.h"
 #include "basic/RuntimeError.h"
+#include "basic/Text.h"
 #include "cli/Commands.h"
 #include "cli/RunScript.h"
 #include "shell/modLorvane.h"
@@ -36,11 +37,17 @@ class CommandLine {
 
     AddRates();
     AddScript();
+    RefuseEmptyValues(app_);
   }
 
   int Run(int count, char** arguments) {
     try {
       app_.parse(count, arguments);
+    } catch (const CLI::RequiredError& error) {
+      // A wrong word is more to the point than the right one that is missing.
+      const std::vector<std::string> unknown = app_.remaining_for_passthrough(true);
+      unknown.empty() ? app_.exit(error) : app_.exit(CLI::ExtrasError(unknown));
+      return kWrongUsage;
     } catch (const CLI::ParseError& error) {
       return app_.exit(error) == 0 ? 0 : kWrongUsage;
     }
@@ -50,11 +57,13 @@ class CommandLine {
         throw CommandFailure("The results can't be written to standard output.");
       }
       return status;
+    } catch (const UsageFailure& failure) {
+      CommandProgram::Warn(failure.what());
+      return kWrongUsage;
     } catch (const CommandFailure& failure) {
-      std::cerr << "lorvane-cli: " << failure.what() << '\n';
+      CommandProgram::Warn(failure.what());
     } catch (const RuntimeError& error) {
-      std::cerr << "lorvane-cli: error " << ErrorNumberText(error.Number()) << ": "
-                << error.Description() << '\n';
+      CommandProgram::Warn(ErrorSentence(error.Number(), error.Description()));
     } catch (const ProgramEnded& ended) {
       return ended.exitStatus;
     }
@@ -62,6 +71,19 @@ class CommandLine {
   }
 
  private:
+  static void RefuseEmptyValues(CLI::App& app) {
+    for (CLI::Option* option : app.get_options([](CLI::Option*) { return true; })) {
+      option->check(CLI::Validator(
+          [](const std::string& value) {
+            return value.empty() ? std::string("it can't be empty.") : std::string();
+          },
+          ""));
+    }
+    for (CLI::App* command : app.get_subcommands([](CLI::App*) { return true; })) {
+      RefuseEmptyValues(*command);
+    }
+  }
+
   CLI::App* AddCommand(const char* name, const char* help, std::function<int()> run) {
     return AddCommand(app_, name, help, std::move(run));
   }
@@ -257,16 +279,14 @@ class CommandLine {
     for (const std::string& variable : variables_) {
       const std::size_t equals = variable.find('=');
       if (equals == std::string::npos || equals == 0) {
-        std::cerr << "lorvane-cli: --set takes NAME=VALUE, not '" << variable << "'.\n";
-        return kWrongUsage;
+        throw UsageFailure("--set takes NAME=VALUE, not '" + variable + "'.");
       }
-      script_.variables[variable.substr(0, equals)] = variable.substr(equals + 1);
+      script_.variables[variable.substr(0, equals)] = ToUtf8(variable.substr(equals + 1));
     }
     if (!now_.empty()) {
       script_.now = ParseDate(now_);
       if (!script_.now) {
-        std::cerr << "lorvane-cli: '" << now_ << "' is no date.\n";
-        return kWrongUsage;
+        throw UsageFailure("'" + now_ + "' is no date.");
       }
     }
     return RunScript(script_);
@@ -290,7 +310,7 @@ class CommandLine {
   std::string backup_;
   std::string folder_;
 
-  int ratesYear_ = 0;
+  std::string ratesYear_;
   std::string sheet_;
   ScriptOptions script_;
   std::vector<std::string> variables_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 
 namespace lorvane {
@@ -8,9 +9,12 @@ namespace lorvane {
 /// with the program.
 class FolderTurn {
  public:
-  /// Waits up to ten seconds and raises 70 then. A file system that knows no turns is no reason to
-  /// fail.
-  explicit FolderTurn(const std::string& folder);
+  static constexpr std::chrono::milliseconds kUsualPatience = std::chrono::seconds(10);
+
+  /// Waits for those before it, and raises 70 when they take longer. A file system that knows no
+  /// turns is no reason to fail.
+  explicit FolderTurn(const std::string& folder,
+                      std::chrono::milliseconds patience = kUsualPatience);
   FolderTurn(const FolderTurn&) = delete;
   FolderTurn& operator=(const FolderTurn&) = delete;
   ~FolderTurn();
