@@ -1,11 +1,13 @@
 #include "cli/RunScript.h"
 
 #include <filesystem>
-#include <fstream>
 #include <memory>
+#include <optional>
 #include <ostream>
+#include <utility>
 
 #include "Version.h"
+#include "basic/ReadFile.h"
 #include "basic/Text.h"
 #include "cli/CommandFailure.h"
 #include "cli/Console.h"
@@ -29,22 +31,14 @@ std::string ReadScript(const std::string& path) {
   if (std::filesystem::is_directory(path, ignored)) {
     throw CommandFailure("'" + path + "' is a folder: a script is wanted.");
   }
-  std::ifstream file(path, std::ios::binary);
-  if (!file) {
+  std::optional<std::string> text = ReadFile(path, kMostBytes);
+  if (!text) {
     throw CommandFailure("The script '" + path + "' can't be read.");
   }
-  std::string text;
-  std::string block(1U << 16U, '\0');
-  while (file.read(block.data(), static_cast<std::streamsize>(block.size())) || file.gcount() > 0) {
-    text.append(block, 0, static_cast<std::size_t>(file.gcount()));
-    if (text.size() > kMostBytes) {
-      throw CommandFailure("'" + path + "' is no script: it is larger than 16 MB.");
-    }
+  if (text->size() > kMostBytes) {
+    throw CommandFailure("'" + path + "' is no script: it is larger than 16 MB.");
   }
-  if (file.bad()) {
-    throw CommandFailure("The script '" + path + "' can't be read.");
-  }
-  return text;
+  return *std::move(text);
 }
 
 }  // namespace

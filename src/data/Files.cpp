@@ -20,8 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
-
 [[noreturn]] void Fail(int code, const std::string& path) {
   const std::string sentence = "'" + path + "': " + std::generic_category().message(code);
   switch (code) {
@@ -75,6 +73,13 @@ int RenameToNew(const std::string& from, const std::string& to) {
   return rename(from.c_str(), to.c_str());
 }
 
+// An open file gets the permissions of the one at a path; false, and errno, when it can't.
+bool TakePermissions(int handle, const std::string& path) {
+  constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && fchmod(handle, status.st_mode & kPermissions) == 0;
+}
+
 // A file under a temporary name beside its place, removed again unless it gets there. Errors name
 // the place.
 class TemporaryFile {
@@ -99,11 +104,9 @@ class TemporaryFile {
     }
   }
 
-  // As what it will replace may be read and written by others.
-  void TakePermissions() {
-    struct stat replaced {};
-    if (stat(place_.c_str(), &replaced) == 0 &&
-        fchmod(handle_, replaced.st_mode & kPermissions) != 0) {
+  // Others may read and write it as what it will replace, if there is anything.
+  void TakePermissionsOfPlace() {
+    if (!TakePermissions(handle_, place_) && errno != ENOENT) {
       Fail(errno, place_);
     }
   }
@@ -146,7 +149,7 @@ std::optional<std::string> DiskFiles::Read(const std::string& path) {
 
 void DiskFiles::Write(const std::string& path, std::string_view content) {
   TemporaryFile file(path);
-  file.TakePermissions();
+  file.TakePermissionsOfPlace();
   file.Write(content);
   file.Place(true);
 }
@@ -185,9 +188,7 @@ void DiskFiles::Replace(const std::string& from, const std::string& to) {
   if (handle < 0) {
     Fail(errno, from);
   }
-  struct stat replaced {};
-  const bool ready = stat(to.c_str(), &replaced) == 0 &&
-                     fchmod(handle, replaced.st_mode & kPermissions) == 0 && fsync(handle) == 0;
+  const bool ready = TakePermissions(handle, to) && fsync(handle) == 0;
   const int code = errno;
   close(handle);
   if (!ready) {

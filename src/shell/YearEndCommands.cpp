@@ -20,6 +20,12 @@ bool AskYesNoCancel(ScreenContext context, const std::string& text, const char* 
   return context.services.MsgBox(text, box::kYesNoCancel | box::kQuestion, title) == answer::kYes;
 }
 
+// Four characters that make a number.
+bool IsYear(const std::string& text) {
+  constexpr std::size_t kDigits = 4;
+  return IsNumeric(text) && Length(text) == kDigits;
+}
+
 void TellNoChange(ScreenContext context) {
   context.services.MsgBox("No change has been made.", box::kExclamation, "No Change");
 }
@@ -110,11 +116,6 @@ std::string GetYearEndYear(ScreenContext context) {
     return {};
   }
   return given;
-}
-
-bool IsYear(const std::string& text) {
-  constexpr std::size_t kDigits = 4;
-  return IsNumeric(text) && Length(text) == kDigits;
 }
 
 YearEndOutcome RunYearEnd(ScreenContext context, const std::string& year) {

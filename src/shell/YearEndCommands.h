@@ -29,8 +29,6 @@ void PerformYearEnd(ScreenContext context);
 /// Proposes the year of the last entry and asks for another when it isn't right. Empty, and told,
 /// when the procedure must not go on. Raises 13 when the date of the last entry is none.
 [[nodiscard]] std::string GetYearEndYear(ScreenContext context);
-/// Four digits as a user writes a year.
-[[nodiscard]] bool IsYear(const std::string& text);
 struct YearEndOutcome {
   /// The year was archived and closed.
   bool closed = false;

@@ -6,11 +6,12 @@
 #include <array>
 #include <exception>
 #include <filesystem>
-#include <fstream>
+#include <optional>
 #include <orcus/csv_parser.hpp>
 #include <type_traits>
 #include <utility>
 
+#include "basic/ReadFile.h"
 #include "basic/RuntimeError.h"
 #include "basic/Text.h"
 
@@ -187,24 +188,14 @@ CsvFile CsvFile::Read(const std::string& path, CsvBlanks blanks) {
   if (!std::filesystem::exists(path, ignored)) {
     throw RuntimeError(error_number::kFileNotFound, fmt::format("There is no file '{}'.", path));
   }
-  std::ifstream file(path, std::ios::binary);
-  if (!file || std::filesystem::is_directory(path, ignored)) {
+  const std::optional<std::string> bytes = ReadFile(path, kMaxBytes);
+  if (!bytes) {
     Refuse(fmt::format("The file '{}' can't be read.", path));
   }
-  // By blocks, since the size of a pipe isn't known.
-  std::string bytes;
-  std::array<char, 1U << 16U> block{};
-  while (file && bytes.size() <= kMaxBytes) {
-    file.read(block.data(), block.size());
-    bytes.append(block.data(), static_cast<std::size_t>(file.gcount()));
-  }
-  if (file.bad()) {
-    Refuse(fmt::format("The file '{}' can't be read.", path));
-  }
-  if (bytes.size() > kMaxBytes) {
+  if (bytes->size() > kMaxBytes) {
     Refuse(fmt::format("The file '{}' is larger than {} megabytes.", path, kMaxBytes >> 20U));
   }
-  return Parse(bytes, path, blanks);
+  return Parse(*bytes, path, blanks);
 }
 
 CsvFile CsvFile::Parse(std::string_view bytes, const std::string& name, CsvBlanks blanks) {
